@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Installs what the build and the tests need from Debian's packages, if missing.
+set -euo pipefail
+pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev)
+missing=()
+for p in "${pkgs[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing: ${missing[*]}"
+    SUDO=""
+    [ "$(id -u)" -eq 0 ] || SUDO=sudo
+    $SUDO apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq "${missing[@]}" >/dev/null
+fi

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Builds and runs the whole suite twice: a release build, and a build under
+# AddressSanitizer and UndefinedBehaviorSanitizer.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/install_deps.sh
+jobs=$(nproc)
+status=0
+for cfg in release asan; do
+    dir=build/test-$cfg
+    flags=(-DCMAKE_BUILD_TYPE=Release)
+    [ "$cfg" = asan ] && flags=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DBRIX_SANITIZE=ON)
+    cmake -S . -B "$dir" "${flags[@]}" >/dev/null
+    cmake --build "$dir" -j "$jobs"
+    echo "== $cfg tests"
+    ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
+        ctest --test-dir "$dir" -j "$jobs" --output-on-failure || status=1
+done
+exit $status

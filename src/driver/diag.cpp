@@ -1,0 +1,218 @@
+#include "driver/diag.hpp"
+
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+char pure_brix_file[100] = "";
+char brix_src_file_name[1000] = "";
+unsigned long long brix_src_file_linenum = 0;
+FILE* brx_model_fp = nullptr;
+int brix_quiet_mode = 0;
+
+void brix_exit(int status) {
+    if (pure_brix_file[0] != '\0') {
+        unlink(pure_brix_file);
+    }
+    exit(status);
+}
+
+void brix_diag_format(const char* fmt, brix_args args) {
+    for (const char* p = fmt; *p != '\0'; ++p) {
+        if (*p != '%') {
+            fputc(*p, stderr);
+            continue;
+        }
+        if (p[1] == '\0') {
+            break; // a lone trailing '%' writes nothing
+        }
+        ++p;
+        if (*p == 's') {
+            if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
+                fputs(a->s, stderr);
+            }
+        } else if (*p == 'd') {
+            if (const brix_arg* a = args.take()) {
+                fprintf(stderr, "%d", static_cast<int>(a->as_signed()));
+            }
+        } else if (*p == 'f') {
+            if (const brix_arg* a = args.take()) {
+                fprintf(stderr, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+            }
+        } else {
+            // Any other character stands for itself and reads no argument: "%c" shows "c".
+            fputc(*p, stderr);
+        }
+    }
+}
+
+void brix_verror(const char* fmt, brix_args args) {
+    brix_diag_format(fmt, args);
+    fputc('\n', stderr);
+    brix_exit(1);
+}
+
+void brix_vwarn(const char* fmt, brix_args args) {
+    brix_diag_format(fmt, args);
+    fputc('\n', stderr);
+}
+
+static void write_position_suffix() {
+    fprintf(stderr, " (BRIX File: %s Line: %llu)\n", brix_src_file_name, brix_src_file_linenum);
+}
+
+void brix_vyyerror(const char* fmt, brix_args args) {
+    fflush(stdout);
+    brix_diag_format(fmt, args);
+    write_position_suffix();
+    brix_exit(1);
+}
+
+void brix_vyywarn(const char* fmt, brix_args args) {
+    fflush(stdout);
+    brix_diag_format(fmt, args);
+    write_position_suffix();
+}
+
+void yyerror(const char* message) {
+    fflush(stdout);
+    fprintf(stderr, "\n%s (BRIX File: %s Line: %llu)\n", message, brix_src_file_name,
+            brix_src_file_linenum);
+    brix_exit(1);
+}
+
+void brix_vemit(const char* fmt, brix_args args) {
+    FILE* out = brx_model_fp;
+    for (const char* p = fmt; *p != '\0'; ++p) {
+        if (*p != '%') {
+            fputc(*p, out);
+            continue;
+        }
+        if (p[1] == '\0') {
+            break;
+        }
+        ++p;
+        const char c = *p;
+        if (c == 's') {
+            if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
+                fputs(a->s, out);
+            }
+        } else if (c == 'c') {
+            if (const brix_arg* a = args.take()) {
+                fputc(static_cast<char>(a->as_signed()), out);
+            }
+        } else if (c == 'd') {
+            if (const brix_arg* a = args.take()) {
+                fprintf(out, "%d", static_cast<int>(a->as_signed()));
+            }
+        } else if (c == 'f') {
+            if (const brix_arg* a = args.take()) {
+                fprintf(out, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+            }
+        } else if (c == 'l') {
+            ++p;
+            if (*p == 'X') {
+                if (const brix_arg* a = args.take()) {
+                    fprintf(out, "%X", static_cast<uint32_t>(a->as_unsigned()));
+                }
+            } else if (*p == 'l') {
+                ++p;
+                if (*p == 'X' || *p == 'u') {
+                    if (const brix_arg* a = args.take()) {
+                        fprintf(out, *p == 'X' ? "%llX" : "%llu", a->as_unsigned());
+                    }
+                } else {
+                    fflush(out);
+                    brix_error("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n",
+                               *p);
+                }
+            } else {
+                fflush(out);
+                brix_error("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
+            }
+        } else {
+            fputc(c, out);
+        }
+    }
+    fflush(out);
+}
+
+long long brix_pow(int32_t base, int32_t exponent) {
+    // Square-and-multiply gives the same wrapped product as multiplying `exponent` times.
+    uint64_t result = 1;
+    uint64_t factor = static_cast<uint64_t>(static_cast<int64_t>(base));
+    for (uint32_t e = exponent > 0 ? static_cast<uint32_t>(exponent) : 0; e != 0; e >>= 1) {
+        if (e & 1U) {
+            result *= factor;
+        }
+        factor *= factor;
+    }
+    return static_cast<long long>(result);
+}
+
+unsigned long long brix_str_to_dec(uint32_t radix, const char* digits) {
+    uint64_t value = 0;
+    uint64_t weight = 1; // radix to the power of the digit's position
+    for (std::size_t n = strlen(digits); n-- > 0;) {
+        const char c = digits[n];
+        if (c == '_') {
+            continue;
+        }
+        int64_t digit;
+        if (c >= 'A' && c <= 'F') {
+            digit = c - 'A' + 10;
+        } else if (c >= 'a' && c <= 'f') {
+            digit = c - 'a' + 10;
+        } else {
+            digit = c - '0';
+        }
+        value += static_cast<uint64_t>(digit) * weight;
+        weight *= radix;
+    }
+    return value;
+}
+
+unsigned long long to_dec(const char* text) {
+    for (const char* p = text;; ++p) {
+        if (*p == '\'') {
+            uint32_t radix = 0;
+            switch (p[1]) {
+            case 'h':
+                radix = 16;
+                break;
+            case 'b':
+                radix = 2;
+                break;
+            case 'o':
+                radix = 8;
+                break;
+            case 'd':
+                radix = 10;
+                break;
+            default:
+                brix_error("Error: Unsupported number system '%c' specified.", p[1]);
+            }
+            return brix_str_to_dec(radix, p + 2);
+        }
+        if (p[0] == '0' && (p[1] == 'x' || p[1] == 'X')) {
+            return brix_str_to_dec(16, p + 2);
+        }
+        if (*p == '\0') {
+            return brix_str_to_dec(10, text);
+        }
+    }
+}
+
+unsigned long long get_ceil(unsigned long long a, unsigned long long b) {
+    return a / b + (a % b != 0 ? 1 : 0);
+}
+
+void* brix_malloc(std::size_t size) {
+    return malloc(size);
+}
+void brix_free(void* p) {
+    free(p);
+}
+char* brix_strdup(const char* s) {
+    return strdup(s);
+}

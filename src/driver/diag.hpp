@@ -1,0 +1,95 @@
+// Diagnostics, the generated-text writer and number conversions.
+//
+// The diagnostics and brix_emit each speak a small printf-like format language of their
+// own. Arguments are passed as a typed pack so that a directive that reads no argument
+// ("%c" in the diagnostics) or one that reads the wrong kind can never read past the pack.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+// Name of the temporary pure description file; empty until main has chosen it.
+extern char pure_brix_file[100];
+// Place in the user's description, as set by the scanner from hash lines.
+extern char brix_src_file_name[1000];
+extern unsigned long long brix_src_file_linenum;
+// Stream that brix_emit writes to.
+extern FILE* brx_model_fp;
+extern int brix_quiet_mode;
+
+struct brix_arg {
+    enum kind_t { STR, INT, UINT, DBL, CHR } kind;
+    const char* s = nullptr;
+    long long i = 0;
+    unsigned long long u = 0;
+    double d = 0;
+
+    brix_arg(const char* v) : kind(STR), s(v) {}
+    brix_arg(const std::string& v) : kind(STR), s(v.c_str()) {}
+    brix_arg(char v) : kind(CHR), i(v) {}
+    brix_arg(int v) : kind(INT), i(v) {}
+    brix_arg(long v) : kind(INT), i(v) {}
+    brix_arg(long long v) : kind(INT), i(v) {}
+    brix_arg(unsigned v) : kind(UINT), u(v) {}
+    brix_arg(unsigned long v) : kind(UINT), u(v) {}
+    brix_arg(unsigned long long v) : kind(UINT), u(v) {}
+    brix_arg(double v) : kind(DBL), d(v) {}
+
+    long long as_signed() const { return kind == UINT ? static_cast<long long>(u) : i; }
+    unsigned long long as_unsigned() const {
+        return kind == UINT ? u : static_cast<unsigned long long>(i);
+    }
+};
+
+// A view of the arguments of one call.
+struct brix_args {
+    const brix_arg* args;
+    std::size_t count;
+    std::size_t next = 0;
+    const brix_arg* take() { return next < count ? &args[next++] : nullptr; }
+};
+
+[[noreturn]] void brix_exit(int status);
+[[noreturn]] void brix_verror(const char* fmt, brix_args args);
+void brix_vwarn(const char* fmt, brix_args args);
+[[noreturn]] void brix_vyyerror(const char* fmt, brix_args args);
+void brix_vyywarn(const char* fmt, brix_args args);
+void brix_vemit(const char* fmt, brix_args args);
+// Writes a diagnostic's format to stderr in the diagnostics' format language.
+void brix_diag_format(const char* fmt, brix_args args);
+
+template <class... A> [[noreturn]] void brix_error(const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_verror(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> void brix_warn(const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vwarn(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> [[noreturn]] void brix_yyerror(const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vyyerror(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> void brix_yywarn(const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vyywarn(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> void brix_emit(const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vemit(fmt, brix_args{v.data(), v.size()});
+}
+
+// Bison's own error entry.
+[[noreturn]] void yyerror(const char* message);
+
+long long brix_pow(int32_t base, int32_t exponent);
+unsigned long long brix_str_to_dec(uint32_t radix, const char* digits);
+unsigned long long to_dec(const char* text);
+unsigned long long get_ceil(unsigned long long a, unsigned long long b);
+
+void* brix_malloc(std::size_t size);
+void brix_free(void* p);
+char* brix_strdup(const char* s);

@@ -1,0 +1,251 @@
+#include "driver/maps.hpp"
+
+#include "driver/diag.hpp"
+
+#include <cstdlib>
+#include <cstring>
+
+unsigned brix_hash_key(const char* key) {
+    unsigned sum = 0;
+    for (const char* p = key; *p != '\0'; ++p) {
+        const int c = static_cast<signed char>(*p);
+        sum += static_cast<unsigned>(c * c);
+    }
+    return sum & 0xFFU;
+}
+
+namespace {
+
+template <class Map> void initialize_map(Map& map) {
+    for (auto& b : map.buckets) {
+        b = nullptr;
+    }
+    map.index.clear();
+}
+
+template <class Map> auto* find_node(const Map& map, const char* key) {
+    const auto it = map.index.find(std::string_view(key));
+    return it == map.index.end() ? nullptr : it->second;
+}
+
+// Appends at the end of the key's chain; a key already present ends the run.
+template <class Map, class Node>
+Node* add_node(Map& map, Node* node, const char* duplicate_message) {
+    if (find_node(map, node->key) != nullptr) {
+        brix_error(duplicate_message, node->key);
+    }
+    Node** link = &map.buckets[brix_hash_key(node->key) % std::size(map.buckets)];
+    while (*link != nullptr) {
+        link = &(*link)->next;
+    }
+    *link = node;
+    map.index.emplace(std::string_view(node->key), node);
+    return node;
+}
+
+template <class Map, class Node> Node* find_for_update(Map& map, const char* key, const char* fn) {
+    if (map.buckets[brix_hash_key(key) % std::size(map.buckets)] == nullptr) {
+        brix_error("Fatal Error: %s() executed on non-existent key '%s'.\n", fn, key);
+    }
+    Node* node = find_node(map, key);
+    if (node == nullptr) {
+        // The gap of blanks before "key" is part of the message.
+        brix_error("Fatal Error: %s() executed on non-existent                                     "
+                   "        "
+                   "key '%s'.\n",
+                   fn, key);
+    }
+    return node;
+}
+
+template <class Map, class Fn> void free_map(Map& map, Fn free_node) {
+    for (auto& b : map.buckets) {
+        for (auto* n = b; n != nullptr;) {
+            auto* next = n->next;
+            free_node(n);
+            n = next;
+        }
+        b = nullptr;
+    }
+    map.index.clear();
+}
+
+} // namespace
+
+void initialize_str2int_map(brix_str2int_map& map) {
+    initialize_map(map);
+}
+void initialize_str2str_map(brix_str2str_map& map) {
+    initialize_map(map);
+}
+void initialize_str2voidptr_map(brix_str2voidptr_map& map) {
+    initialize_map(map);
+}
+
+brix_str2int_map_node_tag* add_str2int_map_entry(brix_str2int_map& map, char* key,
+                                                 long long value) {
+    return add_node(map, new brix_str2int_map_node_tag{key, value, nullptr},
+                    "Error: add_str2int_map_entry - Attempted to add key '%s' 2nd time on a "
+                    "unique key map.");
+}
+
+brix_str2str_map_node_tag* add_str2str_map_entry(brix_str2str_map& map, char* key, char* value) {
+    return add_node(map, new brix_str2str_map_node_tag{key, value, nullptr},
+                    "Error: add_str2str_map_entry - Attempted to add key '%s' 2nd time on a "
+                    "unique key map.");
+}
+
+brix_str2voidptr_map_node_tag* add_str2voidptr_map_entry(brix_str2voidptr_map& map, char* key,
+                                                         void* value) {
+    return add_node(map, new brix_str2voidptr_map_node_tag{key, value, nullptr},
+                    "Error: add_str2voidptr_map_entry - Attempted to add key '%s' 2nd time on a "
+                    "unique key map.");
+}
+
+void update_str2int_map(brix_str2int_map& map, char* key) {
+    if (brix_str2int_map_node_tag* node = find_node(map, key)) {
+        node->value += 1;
+        free(key);
+        return;
+    }
+    add_str2int_map_entry(map, key, 1);
+}
+
+void update_str2str_map_entry(brix_str2str_map& map, const char* key, char* value) {
+    auto* node = find_for_update<brix_str2str_map, brix_str2str_map_node_tag>(
+        map, key, "update_str2str_map_entry");
+    free(node->value);
+    node->value = value;
+}
+
+void update_str2voidptr_map_entry(brix_str2voidptr_map& map, const char* key, void* value) {
+    auto* node = find_for_update<brix_str2voidptr_map, brix_str2voidptr_map_node_tag>(
+        map, key, "update_str2voidptr_map_entry");
+    node->value = value;
+}
+
+long long get_str2int_map_value(const brix_str2int_map& map, const char* key) {
+    const auto* node = find_node(map, key);
+    return node == nullptr ? 0 : node->value;
+}
+
+char* get_str2str_map_value(const brix_str2str_map& map, const char* key) {
+    const auto* node = find_node(map, key);
+    return node == nullptr ? nullptr : node->value;
+}
+
+void* get_str2voidptr_map_value(const brix_str2voidptr_map& map, const char* key) {
+    const auto* node = find_node(map, key);
+    return node == nullptr ? nullptr : node->value;
+}
+
+void free_str2int_map(brix_str2int_map& map) {
+    free_map(map, [](brix_str2int_map_node_tag* n) {
+        free(n->key);
+        delete n;
+    });
+}
+
+void free_str2str_map(brix_str2str_map& map, int mode) {
+    free_map(map, [mode](brix_str2str_map_node_tag* n) {
+        if (mode <= 1) {
+            if (mode == 1) {
+                free(n->key);
+            }
+            free(n->value);
+        }
+        delete n;
+    });
+}
+
+void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
+    free_map(map, [mode](brix_str2voidptr_map_node_tag* n) {
+        if (mode == 1) {
+            free(n->key);
+        }
+        delete n;
+    });
+}
+
+// Lists ------------------------------------------------------------------------------
+//
+// Appending walks to the tail. To keep long lists linear, the last known tail of each
+// list is remembered by head. A hint is always a node of its list: lists only shrink
+// through brix_list_pop and destroy_brix_list, which keep the hints right, so the walk
+// from a hint reaches the true tail even when someone linked nodes on by hand.
+
+namespace {
+std::unordered_map<const brix_list_tag*, brix_list_tag*>& tail_hints() {
+    static std::unordered_map<const brix_list_tag*, brix_list_tag*> hints;
+    return hints;
+}
+
+brix_list_tag* find_tail(brix_list_tag* head) {
+    auto& hints = tail_hints();
+    const auto it = hints.find(head);
+    brix_list_tag* tail = it == hints.end() ? head : it->second;
+    while (tail->next != nullptr) {
+        tail = tail->next;
+    }
+    return tail;
+}
+
+void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
+    find_tail(head)->next = node;
+    brix_list_tag* tail = node;
+    while (tail->next != nullptr) {
+        tail = tail->next;
+    }
+    tail_hints()[head] = tail;
+}
+} // namespace
+
+brix_list_tag* create_brix_list_node(int tag, void* data) {
+    return new brix_list_tag{tag, data, nullptr};
+}
+
+brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data) {
+    brix_list_tag* node = create_brix_list_node(tag, data);
+    link_at_tail(head, node);
+    return node;
+}
+
+void brix_list_push(brix_list_tag** head, brix_list_tag* node) {
+    if (*head == nullptr) {
+        *head = node;
+        return;
+    }
+    link_at_tail(*head, node);
+}
+
+brix_list_tag* brix_list_pop(brix_list_tag** head) {
+    brix_list_tag* first = *head;
+    if (first == nullptr) {
+        return nullptr;
+    }
+    auto& hints = tail_hints();
+    if (first->next == nullptr) {
+        hints.erase(first);
+        *head = nullptr;
+        return first;
+    }
+    brix_list_tag* before = first;
+    while (before->next->next != nullptr) {
+        before = before->next;
+    }
+    brix_list_tag* last = before->next;
+    before->next = nullptr;
+    hints[first] = before;
+    return last;
+}
+
+void destroy_brix_list(brix_list_tag* head) {
+    if (head != nullptr) {
+        tail_hints().erase(head);
+    }
+    while (head != nullptr) {
+        brix_list_tag* next = head->next;
+        delete head;
+        head = next;
+    }
+}

@@ -1,0 +1,91 @@
+// String-keyed chained hash maps and the tagged singly linked list.
+//
+// A map is a fixed array of bucket chains with the exact hash below, because generators
+// walk the buckets in index order and each chain from its head. Each map also keeps a
+// side index from key to node so that look-ups and duplicate checks stay O(1) on big
+// descriptions; the chains alone decide every observable order.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <unordered_map>
+
+constexpr int BRIX_STR2INT_MAP_SIZE = 109;
+constexpr int BRIX_STR2STR_MAP_SIZE = 109;
+constexpr int BRIX_STR2VOIDPTR_MAP_SIZE = 19;
+
+struct brix_str2int_map_node_tag {
+    char* key;
+    long long value;
+    brix_str2int_map_node_tag* next;
+};
+struct brix_str2str_map_node_tag {
+    char* key;
+    char* value;
+    brix_str2str_map_node_tag* next;
+};
+struct brix_str2voidptr_map_node_tag {
+    char* key;
+    void* value;
+    brix_str2voidptr_map_node_tag* next;
+};
+
+template <class Node, int N> struct brix_map {
+    Node* buckets[N] = {};
+    std::unordered_map<std::string_view, Node*> index;
+};
+using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
+using brix_str2str_map = brix_map<brix_str2str_map_node_tag, BRIX_STR2STR_MAP_SIZE>;
+using brix_str2voidptr_map = brix_map<brix_str2voidptr_map_node_tag, BRIX_STR2VOIDPTR_MAP_SIZE>;
+
+// Sum of the squares of the characters read as signed bytes, low 8 bits kept.
+unsigned brix_hash_key(const char* key);
+
+void initialize_str2int_map(brix_str2int_map& map);
+void initialize_str2str_map(brix_str2str_map& map);
+void initialize_str2voidptr_map(brix_str2voidptr_map& map);
+
+brix_str2int_map_node_tag* add_str2int_map_entry(brix_str2int_map& map, char* key, long long value);
+brix_str2str_map_node_tag* add_str2str_map_entry(brix_str2str_map& map, char* key, char* value);
+brix_str2voidptr_map_node_tag* add_str2voidptr_map_entry(brix_str2voidptr_map& map, char* key,
+                                                         void* value);
+
+void update_str2int_map(brix_str2int_map& map, char* key);
+void update_str2str_map_entry(brix_str2str_map& map, const char* key, char* value);
+void update_str2voidptr_map_entry(brix_str2voidptr_map& map, const char* key, void* value);
+
+long long get_str2int_map_value(const brix_str2int_map& map, const char* key);
+char* get_str2str_map_value(const brix_str2str_map& map, const char* key);
+void* get_str2voidptr_map_value(const brix_str2voidptr_map& map, const char* key);
+
+void free_str2int_map(brix_str2int_map& map);
+void free_str2str_map(brix_str2str_map& map, int mode);
+void free_str2voidptr_map(brix_str2voidptr_map& map, int mode);
+
+// The generic list: every component list of the model is made of these nodes.
+struct brix_list_tag {
+    int tag; // a brix_type
+    void* data;
+    brix_list_tag* next;
+};
+
+brix_list_tag* create_brix_list_node(int tag, void* data);
+// Appends after the last node of the list that starts at `head` and returns the new node.
+brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data);
+void brix_list_push(brix_list_tag** head, brix_list_tag* node);
+brix_list_tag* brix_list_pop(brix_list_tag** head);
+void destroy_brix_list(brix_list_tag* head);
+
+// Only the `next` member is used, so any record with one can be reversed.
+template <class Node> Node* recurse_brix_hdl_path_list(Node* node, Node* prev) {
+    while (node != nullptr) {
+        Node* next = node->next;
+        node->next = prev;
+        prev = node;
+        node = next;
+    }
+    return prev;
+}
+template <class Node> Node* reverse_brix_hdl_path_list(Node* head) {
+    return recurse_brix_hdl_path_list<Node>(head, nullptr);
+}

@@ -1,0 +1,2 @@
+#pragma once
+void emit_hx_brx_model(const char* top);

@@ -1,0 +1,5 @@
+#include "driver/driver.hpp"
+
+int main(int argc, char** argv) {
+    return brix_main(argc, argv);
+}
