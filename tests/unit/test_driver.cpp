@@ -7,7 +7,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -40,8 +39,15 @@ TEST(Driver, TemporaryFileName) {
     brix_name_pure_file();
     const std::string name = pure_brix_file;
     pure_brix_file[0] = '\0';
-    const std::regex form("/tmp/qvt_20[0-9]{12}_" + std::to_string(getpid()) + "_pure_brix");
-    EXPECT_TRUE(std::regex_match(name, form)) << name;
+    // /tmp/qvt_<YYYYMMDDhhmmss>_<pid>_pure_brix
+    const std::string head = "/tmp/qvt_";
+    const std::string tail = "_" + std::to_string(getpid()) + "_pure_brix";
+    ASSERT_EQ(name.size(), head.size() + 14 + tail.size()) << name;
+    EXPECT_EQ(name.substr(0, head.size()), head);
+    EXPECT_EQ(name.substr(head.size() + 14), tail);
+    const std::string stamp = name.substr(head.size(), 14);
+    EXPECT_EQ(stamp.find_first_not_of("0123456789"), std::string::npos) << name;
+    EXPECT_EQ(stamp.substr(0, 2), "20");
 }
 
 std::string slurp(const std::string& path) {
