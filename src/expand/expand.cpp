@@ -3,6 +3,7 @@
 #include "driver/diag.hpp"
 
 #include <fcntl.h>
+#include <string>
 #include <unistd.h>
 
 namespace {
@@ -11,9 +12,11 @@ namespace {
 int create_pure_file(const char* pure_file) {
     const int fd = open(pure_file, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
     if (fd < 0) {
-        // The name belongs to somebody else: leave it where it stands.
+        // The name belongs to somebody else: leave it where it stands. pure_file may be
+        // pure_brix_file itself, so keep a copy for the message.
+        const std::string name = pure_file;
         pure_brix_file[0] = '\0';
-        brix_error("Error: Failed to open temporary %d file '%s' for writing...\n", fd, pure_file);
+        brix_error("Error: Failed to open temporary %d file '%s' for writing...\n", fd, name);
     }
     return fd;
 }

@@ -52,7 +52,8 @@ while read -r f; do
 done <"$work/want"
 
 shopt -s nullglob
-left=(/tmp/qvt_*_"${pid}"_pure_brix /tmp/qvt_"${pid}"_pure_brix)
+left=(/tmp/qvt_*_"${pid}"_pure_brix)
+[ -e /tmp/qvt_"${pid}"_pure_brix ] && left+=(/tmp/qvt_"${pid}"_pure_brix)
 if [ -e "$exp/keeps_tmp" ]; then
     [ ${#left[@]} -eq 1 ] || { echo "--- temporary file was expected to stay"; fail=1; }
 else

@@ -1,0 +1,82 @@
+// Helpers of the run driver and the life of the temporary file.
+#include "driver/diag.hpp"
+#include "driver/driver.hpp"
+#include "expand/expand.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+std::string take(char* heap) {
+    std::string s(heap);
+    free(heap);
+    return s;
+}
+
+TEST(Driver, Dirname) {
+    EXPECT_EQ(take(dirname("a/b/c.brix")), "a/b");
+    EXPECT_EQ(take(dirname("/c.brix")), "/");
+    EXPECT_EQ(take(dirname("c.brix")), ".");
+    EXPECT_EQ(take(dirname("")), ".");
+    EXPECT_EQ(take(dirname("a/")), "a");
+}
+
+TEST(Driver, AbsolutePathPrefixesTheWorkingDirectoryOnce) {
+    char cwd[5000];
+    ASSERT_NE(getcwd(cwd, sizeof cwd), nullptr);
+    EXPECT_EQ(take(get_absolute_path("/x/y")), "/x/y");
+    // The value is made absolute as one piece: only the head of a list gets the prefix.
+    EXPECT_EQ(take(get_absolute_path("a:b")), std::string(cwd) + "/a:b");
+}
+
+TEST(Driver, TemporaryFileName) {
+    brix_name_pure_file();
+    const std::string name = pure_brix_file;
+    pure_brix_file[0] = '\0';
+    // /tmp/qvt_<YYYYMMDDhhmmss>_<pid>_pure_brix
+    const std::string head = "/tmp/qvt_";
+    const std::string tail = "_" + std::to_string(getpid()) + "_pure_brix";
+    ASSERT_EQ(name.size(), head.size() + 14 + tail.size()) << name;
+    EXPECT_EQ(name.substr(0, head.size()), head);
+    EXPECT_EQ(name.substr(head.size() + 14), tail);
+    const std::string stamp = name.substr(head.size(), 14);
+    EXPECT_EQ(stamp.find_first_not_of("0123456789"), std::string::npos) << name;
+    EXPECT_EQ(stamp.substr(0, 2), "20");
+}
+
+std::string slurp(const std::string& path) {
+    std::ifstream in(path);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+// A file or link planted under the temporary name is neither followed nor truncated,
+// and it is not removed on the way out either: it is not ours.
+TEST(DriverDeathTest, PlantedTemporaryNameIsLeftAlone) {
+    const std::string base = "/tmp/brix_unit_plant_" + std::to_string(getpid());
+    const std::string target = base + "_target";
+    const std::string link = base + "_link";
+    std::ofstream(target) << "keep";
+    ASSERT_EQ(symlink(target.c_str(), link.c_str()), 0);
+    for (const std::string& planted : {link, target}) {
+        snprintf(pure_brix_file, sizeof pure_brix_file, "%s", planted.c_str());
+        EXPECT_EXIT(expand_tcl_constructs("none.brix", pure_brix_file), testing::ExitedWithCode(1),
+                    "^Error: Failed to open temporary -1 file '" + planted +
+                        "' for writing...\n\n$");
+    }
+    pure_brix_file[0] = '\0';
+    char buf[256] = {};
+    EXPECT_GT(readlink(link.c_str(), buf, sizeof buf - 1), 0);
+    EXPECT_EQ(slurp(target), "keep");
+    unlink(link.c_str());
+    unlink(target.c_str());
+}
+
+} // namespace
