@@ -61,14 +61,16 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
                            const std::string& inc_dirs = "") {
     // A new name for each run, since the pure file is created exclusively.
     static int runs = 0;
-    const std::string pure = (dir.path() / ("pure" + std::to_string(++runs))).string();
+    const std::string pure = (dir.path() / "pure").string() + std::to_string(++runs);
     const std::string err = (dir.path() / "stderr").string();
     const std::string description = (dir.path() / top).string();
     std::string absolute_inc;
     for (std::size_t start = 0; start < inc_dirs.size();) {
         const std::size_t stop = std::min(inc_dirs.find(':', start), inc_dirs.size());
-        absolute_inc += (absolute_inc.empty() ? "" : ":") +
-                        (dir.path() / inc_dirs.substr(start, stop - start)).string();
+        if (!absolute_inc.empty()) {
+            absolute_inc += ':';
+        }
+        absolute_inc += (dir.path() / inc_dirs.substr(start, stop - start)).string();
         start = stop + 1;
     }
     fflush(nullptr);
