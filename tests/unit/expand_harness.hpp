@@ -17,6 +17,7 @@
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace expand_test {
 
@@ -24,6 +25,7 @@ struct expansion {
     int status = -1;  // exit status of the child
     std::string pure; // the pure file, empty if the run removed it
     std::string err;  // what the run wrote to the standard error stream
+    std::string out;  // what reached the user's standard output, then the working folder
 };
 
 inline std::string slurp(const std::filesystem::path& path) {
@@ -63,6 +65,7 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
     static int runs = 0;
     const std::string pure = (dir.path() / "pure").string() + std::to_string(++runs);
     const std::string err = (dir.path() / "stderr").string();
+    const std::string out = (dir.path() / "stdout").string();
     const std::string description = (dir.path() / top).string();
     std::string absolute_inc;
     for (std::size_t start = 0; start < inc_dirs.size();) {
@@ -76,13 +79,18 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
     fflush(nullptr);
     const pid_t pid = fork();
     if (pid == 0) {
-        const int fd = open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        dup2(fd, 2);
-        close(fd);
+        for (const auto& [name, fd_number] : {std::pair{&err, 2}, std::pair{&out, 1}}) {
+            const int fd = open(name->c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            dup2(fd, fd_number);
+            close(fd);
+        }
         snprintf(pure_brix_file, sizeof pure_brix_file, "%s", pure.c_str());
         brix_inc_dirs = absolute_inc.empty() ? nullptr : strdup(absolute_inc.c_str());
         Tcl_FindExecutable(nullptr);
         expand_tcl_constructs(description.c_str(), pure.c_str());
+        char cwd[4096];
+        printf("%s\n", getcwd(cwd, sizeof cwd));
+        fflush(stdout);
         _exit(0);
     }
     int wstatus = 0;
@@ -91,6 +99,7 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
     result.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
     result.pure = slurp(pure);
     result.err = slurp(err);
+    result.out = slurp(out);
     return result;
 }
 
@@ -101,6 +110,8 @@ inline std::string expand_script(const std::string& script) {
     const expansion run = expand_in(dir, "top.brix");
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "");
+    // Descriptor 1 and the working folder are the user's again after the run.
+    EXPECT_EQ(run.out, std::filesystem::current_path().string() + "\n");
     return run.pure;
 }
 
