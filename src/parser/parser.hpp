@@ -6,3 +6,8 @@
 extern FILE* yyin;
 void initialize();
 int yyparse();
+int yylex();
+
+// Points the scanner at a new input, in its first start condition.
+void brix_scanner_restart(FILE* input);
+void brix_scanner_use_string(const char* text);

@@ -1,0 +1,49 @@
+// Scopes and symbols: a tree of hash tables, one per definition with a body.
+#pragma once
+
+#include <string_view>
+#include <unordered_map>
+
+#include "parser/model.hpp"
+
+constexpr int BRIX_SCOPE_BUCKETS = 109;
+constexpr int BRIX_NUM_KEYWORDS = 26;
+
+struct brix_symrec {
+    char* name;
+    int32_t kind; // a brix_type
+    void* data;   // the record; null for a domain name and a keyword
+    brix_symrec* next;
+};
+
+struct brix_scope {
+    char* name; // null for the global scope
+    brix_symrec* buckets[BRIX_SCOPE_BUCKETS];
+    brix_scope* first_child;
+    brix_scope* next_sibling;
+    brix_scope* parent;
+    // Newest symbol of each name entered by the parser, so that a look-up does not walk
+    // a bucket chain: with only 256 hash values the chains grow with the description.
+    // The shared keyword symbols are found through their own table.
+    std::unordered_map<std::string_view, brix_symrec*> newest;
+    brix_scope* last_child; // tail of the children, for appending
+};
+
+extern const char* const brix_keywords[BRIX_NUM_KEYWORDS];
+extern brix_symrec* symrecs_for_keywords[BRIX_NUM_KEYWORDS];
+extern brix_scope* current_scope;
+extern brix_scope* global_scope;
+
+// Bucket of a name: sum of squares of the signed characters, low 8 bits, modulo 109.
+unsigned brix_symbol_hash(const char* name);
+
+// Sets up the global scope with the keywords and resets the parser's state.
+void initialize();
+brix_scope* create_child_scope(brix_scope* parent, const char* name);
+void switch_to_scope(brix_scope* scope);
+brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, void* data);
+brix_symrec* lookup_local_symbol(const char* name);
+brix_symrec* lookup_global_symbol(const char* name);
+int exists_block_domain(const char* block_type_name, const char* domain_name);
+int exists_system_domain(const char* system_type_name, const char* domain_name);
+void destroy_scope();

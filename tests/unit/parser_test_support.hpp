@@ -1,0 +1,93 @@
+// Helpers for tests that feed pure description text straight to the scanner and parser.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "driver/diag.hpp"
+#include "driver/driver.hpp"
+#include "parser/parse_state.hpp"
+#include "parser/parser.hpp"
+#include "parser/scope.hpp"
+
+namespace brix_test {
+
+// Parses `text` with a fresh model and parser state.
+inline void parse_pure(const char* text) {
+    initialize();
+    brix_src_file_name[0] = '\0';
+    brix_src_file_linenum = 0;
+    brix_scanner_use_string(text);
+    yyparse();
+}
+
+struct child_result {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+inline std::string read_all(FILE* f) {
+    std::string text;
+    rewind(f);
+    char buf[4096];
+    for (size_t n; (n = fread(buf, 1, sizeof buf, f)) > 0;) {
+        text.append(buf, n);
+    }
+    fclose(f);
+    return text;
+}
+
+// Runs `body` in a child process and returns its exit status and both streams, so that a
+// run that ends through the diagnostics can be compared byte for byte.
+template <class F> child_result run_in_child(F body) {
+    fflush(stdout);
+    fflush(stderr);
+    FILE* out = tmpfile();
+    FILE* err = tmpfile();
+    const pid_t pid = fork();
+    if (pid == 0) {
+        dup2(fileno(out), 1);
+        dup2(fileno(err), 2);
+        body();
+        fflush(stdout);
+        fflush(stderr);
+        _exit(0);
+    }
+    int wstatus = 0;
+    waitpid(pid, &wstatus, 0);
+    child_result result;
+    result.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
+    result.out = read_all(out);
+    result.err = read_all(err);
+    return result;
+}
+
+inline child_result parse_in_child(const std::string& text) {
+    return run_in_child([&] { parse_pure(text.c_str()); });
+}
+
+// The stderr of a diagnostic through brix_yyerror or brix_yywarn at a place.
+inline std::string at(const std::string& message, const char* file, int line) {
+    return message + " (BRIX File: " + file + " Line: " + std::to_string(line) + ")\n";
+}
+
+// Restores the option flags that the parser reads.
+struct option_guard {
+    int backdoor = brix_gen_backdoor;
+    int quiet = brix_quiet_mode;
+    char* language = target_language;
+    ~option_guard() {
+        brix_gen_backdoor = backdoor;
+        brix_quiet_mode = quiet;
+        target_language = language;
+    }
+};
+
+} // namespace brix_test
