@@ -17,8 +17,9 @@ unsigned brix_hash_key(const char* key) {
 namespace {
 
 template <class Map> void initialize_map(Map& map) {
-    for (auto& b : map.buckets) {
-        b = nullptr;
+    for (std::size_t b = 0; b < std::size(map.buckets); ++b) {
+        map.buckets[b] = nullptr;
+        map.tails[b] = nullptr;
     }
     map.index.clear();
 }
@@ -34,11 +35,13 @@ Node* add_node(Map& map, Node* node, const char* duplicate_message) {
     if (find_node(map, node->key) != nullptr) {
         brix_error(duplicate_message, node->key);
     }
-    Node** link = &map.buckets[brix_hash_key(node->key) % std::size(map.buckets)];
-    while (*link != nullptr) {
-        link = &(*link)->next;
+    const std::size_t b = brix_hash_key(node->key) % std::size(map.buckets);
+    if (map.buckets[b] == nullptr) {
+        map.buckets[b] = node;
+    } else {
+        map.tails[b]->next = node;
     }
-    *link = node;
+    map.tails[b] = node;
     map.index.emplace(std::string_view(node->key), node);
     return node;
 }
@@ -66,6 +69,9 @@ template <class Map, class Fn> void free_map(Map& map, Fn free_node) {
             n = next;
         }
         b = nullptr;
+    }
+    for (auto& t : map.tails) {
+        t = nullptr;
     }
     map.index.clear();
 }

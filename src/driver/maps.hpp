@@ -32,6 +32,7 @@ struct brix_str2voidptr_map_node_tag {
 
 template <class Node, int N> struct brix_map {
     Node* buckets[N] = {};
+    Node* tails[N] = {}; // last node of each chain, so that adding does not walk it
     std::unordered_map<std::string_view, Node*> index;
 };
 using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
