@@ -857,12 +857,12 @@ system_component describe(const brix_list_tag* c) {
             L().register_subsys_array};
 }
 
-// Both domain records have the same layout; only `name` and `bytes` are read here.
-const brix_block_domain_tag* find_instance_domain(const system_component& c) {
+// The interface width of the domain of its type that an instance stands for.
+template <class Domain> int32_t instance_domain_bytes(const system_component& c) {
     for (const brix_list_tag* n = c.type_domains; n != nullptr; n = n->next) {
-        const auto* d = static_cast<const brix_block_domain_tag*>(n->data);
+        const auto* d = static_cast<const Domain*>(n->data);
         if (d->name == nullptr || (c.domain != nullptr && strcmp(d->name, c.domain) == 0)) {
-            return d;
+            return d->bytes;
         }
     }
     brix_error(c.invalid, c.type_name, c.domain != nullptr ? c.domain : "");
@@ -873,11 +873,13 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
     const system_component c = describe(node);
     const uint64_t size = static_cast<uint64_t>(
         get_str2int_map_value(*c.sizes, size_key(c.suffix, c.domain).c_str()));
-    const brix_block_domain_tag* dom = find_instance_domain(c);
+    const auto bytes = static_cast<uint64_t>(
+        node->tag == BRIX_BLOCK ? instance_domain_bytes<brix_block_domain_tag>(c)
+                                : instance_domain_bytes<brix_system_domain_tag>(c));
     const uint64_t b = static_cast<uint64_t>(sys_dom->bytes);
     uint64_t span = size;
-    if (static_cast<uint64_t>(dom->bytes) > b) {
-        span = size * get_ceil(static_cast<uint64_t>(dom->bytes), b);
+    if (bytes > b) {
+        span = size * get_ceil(bytes, b);
     }
     const bool multi_domain = c.type_domains != nullptr && c.type_domains->next != nullptr;
     const std::string key = c.class_key + " " + c.name;

@@ -67,14 +67,18 @@ virtual class qvt_brx_node;
     endfunction
 endclass
 
-class qvt_brx_reg extends qvt_brx_node;
+// Registers and memories: one object may be mapped into several domains of a block.
+virtual class qvt_brx_mapped extends qvt_brx_node;
+    function void add_domain(bit [`QVT_BRX_ADDR_WIDTH-1:0] offset, string domain,
+                             bit [1:0] rights, bit unmapped);
+    endfunction
+endclass
+
+class qvt_brx_reg extends qvt_brx_mapped;
     function new(qvt_brx_block parent, string name, int n_bits,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] offset, string domain, int cvr,
                  bit [1:0] rights, bit unmapped, int coverage);
         m_name = name;
-    endfunction
-    function void add_domain(bit [`QVT_BRX_ADDR_WIDTH-1:0] offset, string domain,
-                             bit [1:0] rights, bit unmapped);
     endfunction
 endclass
 
@@ -86,15 +90,12 @@ class qvt_brx_field;
     endfunction
 endclass
 
-class qvt_brx_mem extends qvt_brx_node;
+class qvt_brx_mem extends qvt_brx_mapped;
     function new(qvt_brx_block parent, string name, int access,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] size, int n_bits,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] base_address, string domain, int cvr,
                  bit [1:0] rights, bit unmapped, int coverage);
         m_name = name;
-    endfunction
-    function void add_domain(bit [`QVT_BRX_ADDR_WIDTH-1:0] offset, string domain,
-                             bit [1:0] rights, bit unmapped);
     endfunction
 endclass
 
