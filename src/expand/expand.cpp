@@ -1,12 +1,32 @@
+// The expansion run: one Tcl interpreter evaluates the description with standard output
+// redirected into the pure file, and `source` looks along the -I directories.
 #include "expand/expand.hpp"
 
 #include "driver/diag.hpp"
+#include "driver/driver.hpp"
 
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
+#include <memory>
+#include <new>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
 
+Tcl_Interp* brixgen_interp = nullptr;
+const char* reading_brix_file = nullptr;
+unsigned long long brix_tcl_error_linenum = 0;
+char* user_pwd = nullptr;
+char* user_ppwd = nullptr;
+brix_str2str_map all_procs_location_info;
+brix_str2int_map all_purebrix_cmds;
+
 namespace {
+
+char brixgen_cmdbuf[1100];
+
 // Creates the pure file exclusively and without following links, so that a file or
 // link planted under the predictable name is neither followed nor truncated.
 int create_pure_file(const char* pure_file) {
@@ -20,10 +40,231 @@ int create_pure_file(const char* pure_file) {
     }
     return fd;
 }
+
+// The whole file with a closing NUL; a NUL inside it ends the script there.
+std::unique_ptr<char[]> read_brix_file(const char* path) {
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        fprintf(stderr, "Error: Failed to open file %s ... exiting!\n", path);
+        brix_exit(1);
+    }
+    struct stat st {};
+    if (fstat(fd, &st) != 0) {
+        fprintf(stderr, "Error: Failed to stat file %s ...\n", path);
+        brix_exit(1);
+    }
+    const auto size = static_cast<std::size_t>(st.st_size);
+    std::unique_ptr<char[]> text(new (std::nothrow) char[size + 1]);
+    if (!text) {
+        fputs("execute_brix_file: Fatal error - malloc failed\n", stderr);
+        brix_exit(1);
+    }
+    const ssize_t got = read(fd, text.get(), size);
+    close(fd);
+    if (got != static_cast<ssize_t>(size)) {
+        fprintf(stderr, "Error: Failed to read entire file %s ... Only %d bytes read.\n", path,
+                static_cast<int>(got));
+        brix_exit(1);
+    }
+    text[size] = '\0';
+    return text;
+}
+
+// Sets reading_brix_file for the evaluation of one file and gives the old one back after.
+struct reading_file_scope {
+    const char* saved;
+    explicit reading_file_scope(const char* path) : saved(reading_brix_file) {
+        reading_brix_file = path;
+        brix_push_line_anchor({1, 1, path});
+    }
+    ~reading_file_scope() {
+        brix_pop_line_anchor();
+        reading_brix_file = saved;
+    }
+    reading_file_scope(const reading_file_scope&) = delete;
+    reading_file_scope& operator=(const reading_file_scope&) = delete;
+};
+
+// Ends the run with the whole Tcl trace and the place in the top file.
+[[noreturn]] void report_top_level_error(const char* path) {
+    const char* trace = Tcl_GetVar(brixgen_interp, "errorInfo", TCL_GLOBAL_ONLY);
+    if (trace != nullptr) {
+        fprintf(stderr, "\n%s (file \"%s\" line %llu)\n", trace, path, brix_tcl_error_linenum);
+    }
+    brix_exit(1);
+}
+
+void setup_interpreter() {
+    brixgen_interp = Tcl_CreateInterp();
+    Tcl_Init(brixgen_interp);
+    for (const char* rename :
+         {"rename source __brix_source_original__", "rename proc __brix_proc_original__"}) {
+        if (brix_check_result(Tcl_Eval(brixgen_interp, rename)) != TCL_OK) {
+            brix_error("Fatal Error: Failed to setup BRIX support in the Tcl Interpreter.\n");
+        }
+    }
+    initialize_str2str_map(all_procs_location_info);
+    initialize_str2int_map(all_purebrix_cmds);
+    brix_register_description_commands();
+    Tcl_CreateCommand(brixgen_interp, "source", BRIX_source, nullptr, nullptr);
+    Tcl_CreateCommand(brixgen_interp, "proc", BRIX_proc, nullptr, nullptr);
+    Tcl_CreateCommand(brixgen_interp, "__brix_parse_info_frame_level_info__",
+                      brix_parse_info_frame_level_info, nullptr, nullptr);
+    brix_clear_line_cache();
+}
+
 } // namespace
 
+void brix_fold_error_line(int error_line) {
+    if (error_line <= 0) {
+        return;
+    }
+    const auto line = static_cast<unsigned long long>(error_line);
+    brix_tcl_error_linenum = brix_tcl_error_linenum == 0 ? line : brix_tcl_error_linenum + line - 1;
+}
+
+void brix_flush_tcl_stdout() {
+    const int status = Tcl_Eval(brixgen_interp, "flush stdout");
+    const char* result = Tcl_GetStringResult(brixgen_interp);
+    if (status == TCL_ERROR) {
+        fputs("ERROR: Interprator exited with an error while executing \"flush stdout\"\n", stderr);
+        brix_exit(1);
+    }
+    if (*result != '\0') {
+        fputs(result, stdout);
+    }
+}
+
+void brix_print_result(const char* text) {
+    // The flush replaces the interpreter's result, which may be the text itself.
+    const std::string copy = text;
+    brix_flush_tcl_stdout();
+    fputs(copy.c_str(), stdout);
+    fflush(stdout);
+}
+
+int brix_check_result(int status) {
+    const char* result = Tcl_GetStringResult(brixgen_interp);
+    if (*result == '\0') {
+        return TCL_OK;
+    }
+    if (status == TCL_OK) {
+        brix_print_result(result);
+    } else if (status == TCL_ERROR) {
+        brix_fold_error_line(Tcl_GetErrorLine(brixgen_interp));
+        return TCL_ERROR;
+    }
+    return TCL_OK;
+}
+
+int brix_eval_checked(const std::string& script) {
+    return brix_check_result(Tcl_Eval(brixgen_interp, script.c_str()));
+}
+
+int execute_brix_file(const char* path) {
+    const std::unique_ptr<char[]> text = read_brix_file(path);
+    const std::string script = protect_brix_subscripts(text.get());
+
+    const reading_file_scope scope(path);
+    const int status = Tcl_Eval(brixgen_interp, script.c_str());
+    const char* result = Tcl_GetStringResult(brixgen_interp);
+    // An error with an empty message goes by unnoticed.
+    if (*result == '\0') {
+        return TCL_OK;
+    }
+    if (status != TCL_ERROR) {
+        if (status == TCL_OK) {
+            brix_print_result(result);
+        }
+        return TCL_OK;
+    }
+    brix_fold_error_line(Tcl_GetErrorLine(brixgen_interp));
+    if (scope.saved == nullptr) {
+        report_top_level_error(path);
+    }
+    const std::string where = "    (file \"" + std::string(path) + "\" line " +
+                              std::to_string(brix_tcl_error_linenum) + ")\n";
+    Tcl_AddErrorInfo(brixgen_interp, where.c_str());
+    // The line of the `source` command in the including file starts a new sum.
+    brix_tcl_error_linenum = 0;
+    return TCL_ERROR;
+}
+
+int BRIX_source(ClientData, Tcl_Interp*, int argc, const char** argv) {
+    if (argc != 2) {
+        fputs("wrong # args: should be \"source fileName\"\n", stderr);
+        brix_exit(1);
+    }
+    const char* name = argv[1];
+    if (brix_inc_dirs != nullptr) {
+        const std::string dirs = brix_inc_dirs;
+        std::size_t start = 0;
+        while (start <= dirs.size()) {
+            std::size_t stop = dirs.find(':', start);
+            if (stop == std::string::npos) {
+                stop = dirs.size();
+            }
+            std::string dir = dirs.substr(start, stop - start);
+            start = stop + 1;
+            if (dir.empty()) {
+                continue;
+            }
+            if (dir == ".") {
+                dir = user_pwd;
+            } else if (dir == "..") {
+                dir = user_ppwd;
+            }
+            const std::string candidate = dir + "/" + name;
+            if (FILE* f = fopen(candidate.c_str(), "r")) {
+                fclose(f);
+                return execute_brix_file(candidate.c_str());
+            }
+        }
+    }
+    // The top file's directory, which is the working directory, comes last.
+    return execute_brix_file(name);
+}
+
 void expand_tcl_constructs(const char* description_file, const char* pure_file) {
-    (void)description_file;
     const int fd = create_pure_file(pure_file);
+
+    // Both of Tcl's stdout channel, made when first used, and stdio's stdout write into
+    // the pure file, so descriptor 1 is moved before the interpreter exists.
+    fflush(stdout);
+    const int user_stdout = dup(1);
+    close(1);
+    dup(fd);
+
+    setup_interpreter();
+
+    char* dir = dirname(description_file);
+    if (getcwd(brixgen_cmdbuf, 1000) == nullptr) {
+        fputs("Error: 'getcwd' failed...\n", stderr);
+        brix_exit(1);
+    }
+    user_pwd = brix_strdup(brixgen_cmdbuf);
+    user_ppwd = dirname(user_pwd);
+    // A directory that cannot be entered shows up as a failure to open the file.
+    (void)!chdir(dir);
+    free(dir);
+
+    // The script runs in its own directory, and every name shown for it is its base name.
+    const char* slash = strrchr(description_file, '/');
+    const char* base = slash != nullptr ? slash + 1 : description_file;
+    execute_brix_file(base);
+
+    brix_clear_line_cache();
+    free_str2str_map(all_procs_location_info, 1);
+    free_str2int_map(all_purebrix_cmds);
+
+    brix_flush_tcl_stdout();
+    fflush(stdout);
     close(fd);
+    close(1);
+    dup(user_stdout);
+    close(user_stdout);
+    (void)!chdir(user_pwd);
+    free(user_pwd);
+    free(user_ppwd);
+    user_pwd = user_ppwd = nullptr;
 }

@@ -1,6 +1,72 @@
 // Expansion of a description script into the pure description.
 #pragma once
 
+#include "driver/maps.hpp"
+
+#include <string>
+#include <tcl.h>
+
 // Evaluates the description file and writes the pure description into pure_file.
 // Returns only on success.
 void expand_tcl_constructs(const char* description_file, const char* pure_file);
+
+// --- Shared by the expansion stage -------------------------------------------------------
+
+extern Tcl_Interp* brixgen_interp;
+// The file being evaluated; null before the first one, which tells the top file apart.
+extern const char* reading_brix_file;
+// Accumulated line of the Tcl error on its way up.
+extern unsigned long long brix_tcl_error_linenum;
+// Nesting of compound bodies being evaluated, and so the tabs in front of a declaration.
+extern int brix_level;
+extern char* user_pwd;
+extern char* user_ppwd;
+extern brix_str2str_map all_procs_location_info;
+extern brix_str2int_map all_purebrix_cmds;
+
+// Evaluates one file of the description; TCL_OK or TCL_ERROR.
+int execute_brix_file(const char* path);
+int BRIX_source(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
+
+// Puts the array subscripts of a script behind three backslashes, leaving constraint
+// bodies alone.
+std::string protect_brix_subscripts(const char* text);
+
+// Folds a positive error line of the script that just failed into brix_tcl_error_linenum.
+void brix_fold_error_line(int error_line);
+// The common tail of every evaluation: a non-empty result is printed on success, and an
+// error with a message folds its line in and gives TCL_ERROR. Anything else goes on.
+int brix_check_result(int status);
+// Tcl_Eval followed by brix_check_result.
+int brix_eval_checked(const std::string& script);
+// Writes a result into the pure text through stdio, after what Tcl has buffered.
+void brix_print_result(const char* text);
+// Evaluates "flush stdout" so that stdio may write behind Tcl's channel; fatal on error.
+void brix_flush_tcl_stdout();
+
+// --- Source line tracking ----------------------------------------------------------------
+
+// Where a line of the script being evaluated lies: its line frame_line stands at
+// file_line of file_name.
+struct lineno_cache_entry {
+    int frame_line;
+    int file_line;
+    std::string file_name;
+};
+// Makes `entry` the anchor of the scripts evaluated until brix_pop_line_anchor.
+void brix_push_line_anchor(lineno_cache_entry entry);
+void brix_pop_line_anchor();
+void brix_clear_line_cache();
+
+// The line of the command being run; stores its file in *file_out, which the caller must
+// neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
+int get_current_brix_file_line_num(const char** file_out);
+// Writes one hash line. With `where`, also hands back the place it named.
+int emit_brix_hashline(lineno_cache_entry* where = nullptr);
+
+int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
+int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,
+                                     const char** argv);
+
+// Registers the 29 description commands and fills all_purebrix_cmds.
+void brix_register_description_commands();

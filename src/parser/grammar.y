@@ -46,6 +46,9 @@ static const char* brix_bison_text(const char* text) {
 %token LINENUM FILENAME CROSS LABEL COVER
 %token <str> COVER_SPEC
 %token COVERPOINT BINS DEFAULT ATTRIBUTES ATTR_VALUE VHDL_PATH
+/* Single characters stand for themselves; listing them here fixes their order in the
+   "expecting" part of a syntax error. */
+%token '.' ':' '%' '[' ']' ',' '@' '=' '{' '}' '(' ')' '+'
 
 %type <str> hdl_path_identifier hdl_path_identifier_contd hdl_path_array_subscript
 %type <str> offset offset_value increment number optional_identifier enum_const_initializer

@@ -51,9 +51,11 @@ while read -r f; do
     [ -f "$work/run/$f" ] && compare "$exp/files/$f" "$work/run/$f" "$f"
 done <"$work/want"
 
-shopt -s nullglob
-left=(/tmp/qvt_*_"${pid}"_pure_brix)
-[ -e /tmp/qvt_"${pid}"_pure_brix ] && left+=(/tmp/qvt_"${pid}"_pure_brix)
+# The name without a timestamp holds no wildcard, so nullglob would keep it: test each.
+left=()
+for f in /tmp/qvt_*_"${pid}"_pure_brix /tmp/qvt_"${pid}"_pure_brix; do
+    [ -e "$f" ] && left+=("$f")
+done
 if [ -e "$exp/keeps_tmp" ]; then
     [ ${#left[@]} -eq 1 ] || { echo "--- temporary file was expected to stay"; fail=1; }
 else

@@ -1,0 +1,317 @@
+// The description commands. Each writes its words back out as pure description text:
+// a hash line, the indent of its nesting, its words with a blank behind each, and for
+// compound commands the body, evaluated as Tcl in between. Every word is written by
+// evaluating a `puts` of it in double quotes, so Tcl substitutes it a second time.
+#include "expand/expand.hpp"
+
+#include "driver/diag.hpp"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+int brix_level = 0;
+
+namespace {
+
+enum class family { pair, single, all_words, braced, bins, doc, constraint, compound };
+
+struct description_command {
+    const char* name;
+    family kind;
+    // Pair: written in place of word 0 (`reset` becomes `hard_reset`).
+    const char* word0 = nullptr;
+    // Braced: the declaration ends without a newline, so the next hash line follows it.
+    bool stays_on_line = false;
+    // Compound: a top-level declaration is followed by two empty lines.
+    bool gap_at_top = true;
+};
+
+const description_command description_commands[] = {
+    {"system", family::compound},
+    {"block", family::compound},
+    {"register", family::compound},
+    {"virtual", family::compound},
+    {"field", family::compound},
+    {"bits", family::pair},
+    {"doc", family::doc},
+    {"constraint", family::constraint},
+    {"bytes", family::pair},
+    {"size", family::all_words},
+    {"endian", family::pair},
+    {"left_to_right", family::single},
+    {"access", family::pair},
+    {"reset", family::pair, "hard_reset"},
+    {"hard_reset", family::pair, "hard_reset"},
+    {"soft_reset", family::pair},
+    {"initial", family::pair},
+    {"noise", family::pair},
+    {"shared", family::all_words},
+    {"memory", family::compound},
+    {"regfile", family::compound},
+    {"domain", family::compound, nullptr, false, false},
+    {"cover", family::compound},
+    {"cross", family::compound},
+    {"label", family::compound},
+    {"enum", family::braced, nullptr, true},
+    {"bins", family::bins},
+    {"coverpoint", family::compound},
+    {"attributes", family::braced},
+};
+
+// Writes pure text through Tcl; after the first failed evaluation every later step is
+// skipped and status() reports the failure.
+class pure_writer {
+  public:
+    void eval(const std::string& script) {
+        if (!failed_ && brix_eval_checked(script) != TCL_OK) {
+            failed_ = true;
+        }
+    }
+    void word(const char* text) {
+        std::string script = "puts -nonewline \"";
+        const std::size_t length = strlen(text);
+        if (length <= 1000) {
+            for (const char* p = text; *p != '\0'; ++p) {
+                if (*p == '"') {
+                    script += '\\';
+                }
+                script += *p;
+            }
+        } else {
+            // Longer words go in as they stand: their quotes end the string.
+            script.append(text, length);
+        }
+        script += " \"";
+        eval(script);
+    }
+    // Words first to last, the last excluded.
+    void words(const char** argv, int first, int last) {
+        for (int i = first; i < last; ++i) {
+            word(argv[i]);
+        }
+    }
+    void indent() {
+        if (brix_level > 0) {
+            eval("puts -nonewline \"" + std::string(static_cast<std::size_t>(brix_level), '\t') +
+                 "\"");
+        }
+    }
+    void newline() { eval("puts \"\""); }
+    bool failed() const { return failed_; }
+    int status() const { return failed_ ? TCL_ERROR : TCL_OK; }
+
+  private:
+    bool failed_ = false;
+};
+
+// The start of every declaration: its hash line, whose result is not looked at, and the
+// indent.
+pure_writer start_declaration(lineno_cache_entry* where = nullptr) {
+    emit_brix_hashline(where);
+    pure_writer w;
+    w.indent();
+    return w;
+}
+
+// A last word with no blank, tab or newline in it, and not empty, is a plain word.
+bool is_body(const char* word) {
+    return *word == '\0' || strpbrk(word, " \t\n") != nullptr;
+}
+
+// Writes the words ahead of a body: all but the last, and the first `kept` words in any
+// case. Gives the last word back when it is left for a body; otherwise ends the
+// declaration and gives null, as after a failure.
+const char* write_head(pure_writer& w, int argc, const char** argv, int kept,
+                       bool any_word_is_body) {
+    const int head = std::max(argc - 1, std::min(argc, kept));
+    w.words(argv, 0, head);
+    if (head == argc) {
+        w.newline();
+        return nullptr;
+    }
+    const char* last = argv[argc - 1];
+    if (!any_word_is_body && !is_body(last)) {
+        w.word(last);
+        w.newline();
+        return nullptr;
+    }
+    return w.failed() ? nullptr : last;
+}
+
+int write_compound(const description_command& cmd, int argc, const char** argv) {
+    lineno_cache_entry where{};
+    pure_writer w = start_declaration(&where);
+    const char* body = write_head(w, argc, argv, 1, false);
+    if (body == nullptr) {
+        return w.status();
+    }
+    w.eval("puts -nonewline \"{\\n\"");
+    if (w.failed()) {
+        return TCL_ERROR;
+    }
+    ++brix_level;
+    brix_push_line_anchor(where);
+    const int status = brix_check_result(Tcl_Eval(brixgen_interp, body));
+    brix_pop_line_anchor();
+    if (status != TCL_OK) {
+        // The level stays raised: the error ends the run unless the description catches it.
+        return TCL_ERROR;
+    }
+    --brix_level;
+    w.indent();
+    w.eval("puts \"}\"");
+    if (brix_level == 0 && cmd.gap_at_top) {
+        w.eval("puts \"\\n\"");
+    }
+    return w.status();
+}
+
+int write_pair(const description_command& cmd, int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    w.word(cmd.word0 != nullptr ? cmd.word0 : argv[0]);
+    if (argc > 1) {
+        w.word(argv[1]);
+    }
+    w.newline();
+    return w.status();
+}
+
+int write_single(int, const char** argv) {
+    pure_writer w = start_declaration();
+    w.word(argv[0]);
+    w.newline();
+    return w.status();
+}
+
+int write_all_words(int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    w.words(argv, 0, argc);
+    w.newline();
+    return w.status();
+}
+
+int write_braced(const description_command& cmd, int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    w.words(argv, 0, argc - 1);
+    w.eval("puts -nonewline \"{ \"");
+    w.word(argv[argc - 1]);
+    w.eval(cmd.stays_on_line ? "puts -nonewline \" }\"" : "puts \" }\"");
+    return w.status();
+}
+
+int write_bins(int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    w.words(argv, 0, argc - 1);
+    const char* last = argv[argc - 1];
+    if (strcmp(last, "default") == 0) {
+        w.word(last);
+        return w.status();
+    }
+    // Shields ranges such as [lo:hi] from the second substitution.
+    std::string values;
+    for (const char* p = last; *p != '\0'; ++p) {
+        if (*p == '[' || *p == ']') {
+            values += '\\';
+        }
+        values += *p;
+    }
+    w.eval("puts -nonewline \"{ \"");
+    w.word(values.c_str());
+    w.eval("puts \" }\"");
+    return w.status();
+}
+
+int write_doc(int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    const char* body = write_head(w, argc, argv, 1, true);
+    if (body == nullptr) {
+        return w.status();
+    }
+    // The text goes out as it stands, through stdio behind what Tcl has buffered.
+    brix_flush_tcl_stdout();
+    printf("{\n%s\n}\n", body);
+    fflush(stdout);
+    return TCL_OK;
+}
+
+void write_tabs(int count) {
+    for (int i = 0; i < count; ++i) {
+        fputc('\t', stdout);
+    }
+}
+
+// Writes a constraint body line by line, each line re-indented to the level inside it;
+// empty lines stay.
+void write_constraint_body(const char* body) {
+    fputc('{', stdout);
+    ++brix_level;
+    const char* p = body;
+    while (*p != '\0') {
+        p += strspn(p, " \t");
+        if (*p == '\0') {
+            break;
+        }
+        if (*p == '\n') {
+            fputc('\n', stdout);
+            ++p;
+            continue;
+        }
+        write_tabs(brix_level);
+        const char* end = strchr(p, '\n');
+        end = end != nullptr ? end + 1 : p + strlen(p);
+        fwrite(p, 1, static_cast<std::size_t>(end - p), stdout);
+        p = end;
+    }
+    --brix_level;
+    write_tabs(brix_level);
+    fputs("}\n", stdout);
+    fflush(stdout);
+}
+
+int write_constraint(int argc, const char** argv) {
+    pure_writer w = start_declaration();
+    // The name is never taken for a body.
+    const char* body = write_head(w, argc, argv, 2, false);
+    if (body == nullptr) {
+        return w.status();
+    }
+    brix_flush_tcl_stdout();
+    write_constraint_body(body);
+    return TCL_OK;
+}
+
+int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const char** argv) {
+    const auto& cmd = *static_cast<const description_command*>(client_data);
+    switch (cmd.kind) {
+    case family::pair:
+        return write_pair(cmd, argc, argv);
+    case family::single:
+        return write_single(argc, argv);
+    case family::all_words:
+        return write_all_words(argc, argv);
+    case family::braced:
+        return write_braced(cmd, argc, argv);
+    case family::bins:
+        return write_bins(argc, argv);
+    case family::doc:
+        return write_doc(argc, argv);
+    case family::constraint:
+        return write_constraint(argc, argv);
+    case family::compound:
+        return write_compound(cmd, argc, argv);
+    }
+    return TCL_ERROR;
+}
+
+} // namespace
+
+void brix_register_description_commands() {
+    for (const description_command& cmd : description_commands) {
+        add_str2int_map_entry(all_purebrix_cmds, brix_strdup(cmd.name), 1);
+        Tcl_CreateCommand(brixgen_interp, cmd.name, run_description_command,
+                          const_cast<description_command*>(&cmd), nullptr);
+    }
+    // `proc` is placed like a description command.
+    add_str2int_map_entry(all_purebrix_cmds, brix_strdup("proc"), 1);
+}

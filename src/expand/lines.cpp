@@ -1,0 +1,174 @@
+// Source line tracking: the file and line of the description command being run, for the
+// hash line in front of its output, and the definition place of each procedure.
+//
+// Tcl 8.6 numbers the lines of `info frame` relative to the script that holds the
+// command: a body that a description command passes to Tcl_Eval is a script of its own
+// (a "type eval" frame whose line 1 is the line of the opening brace), a procedure body is
+// one too ("type proc"), while the bodies of loops, `if`, `catch` and the like, when they
+// are literal words, count within the script around them. So the innermost frame alone,
+// together with the script it belongs to, names the place. Each script this stage
+// evaluates (a file, or a body) has its anchor on a stack, pushed and popped around its
+// evaluation; a command in a procedure body is placed from the procedure's definition.
+// This reads one small frame per command instead of walking outer frames, whose command
+// texts hold whole bodies and would make big descriptions quadratic.
+#include "expand/expand.hpp"
+
+#include "driver/diag.hpp"
+
+#include <cstdlib>
+#include <cstring>
+#include <deque>
+
+namespace {
+
+// Anchors of the scripts under evaluation, innermost last. A deque keeps the file names
+// in place while scripts nest deeper.
+std::deque<lineno_cache_entry> lineno_cache;
+
+// Results of the frame parser.
+int tmp_brix_cmd_frame_linenum = 0;
+char* tmp_brix_proc_filename = nullptr;
+int tmp_brix_proc_linenum = 0;
+
+[[noreturn]] void position_failed() {
+    brix_error("Fatal Internal Error: get_current_brix_file_line_num() failed...\n");
+}
+
+} // namespace
+
+void brix_push_line_anchor(lineno_cache_entry entry) {
+    lineno_cache.push_back(std::move(entry));
+}
+void brix_pop_line_anchor() {
+    lineno_cache.pop_back();
+}
+void brix_clear_line_cache() {
+    lineno_cache.clear();
+}
+
+// Receives the key-value words of one `info frame` answer. 8.6 orders the keys by frame
+// type ("file" comes before "cmd" in a source frame), so they are read by key.
+int brix_parse_info_frame_level_info(ClientData, Tcl_Interp*, int argc, const char** argv) {
+    const char* type = "";
+    const char* line = "0";
+    const char* cmd = "";
+    const char* proc = nullptr;
+    for (int i = 1; i + 1 < argc; i += 2) {
+        const char* key = argv[i];
+        const char* value = argv[i + 1];
+        if (strcmp(key, "type") == 0) {
+            type = value;
+        } else if (strcmp(key, "line") == 0) {
+            line = value;
+        } else if (strcmp(key, "cmd") == 0) {
+            cmd = value;
+        } else if (strcmp(key, "proc") == 0) {
+            proc = value;
+        }
+    }
+    // The command's name, also when it is called by its qualified name.
+    if (strncmp(cmd, "::", 2) == 0) {
+        cmd += 2;
+    }
+    const std::string name(cmd, strcspn(cmd, " \t"));
+
+    free(tmp_brix_proc_filename);
+    tmp_brix_proc_filename = nullptr;
+    tmp_brix_proc_linenum = 0;
+    const int frame_line = atoi(line);
+
+    if (strcmp(type, "proc") != 0 || proc == nullptr) {
+        if (name == "source") {
+            tmp_brix_cmd_frame_linenum = -1;
+        } else if (get_str2int_map_value(all_purebrix_cmds, name.c_str()) != 0) {
+            tmp_brix_cmd_frame_linenum = frame_line;
+        } else {
+            tmp_brix_cmd_frame_linenum = 0;
+        }
+        return TCL_OK;
+    }
+    // Procedures are known by the name they were defined with, less the leading "::".
+    const char* key = strlen(proc) >= 2 ? proc + 2 : proc;
+    const char* place = get_str2str_map_value(all_procs_location_info, key);
+    if (place == nullptr) {
+        brix_error("Error: invalid command name \"%s\"\n", key);
+    }
+    // "<file> <line>"; the line follows the last blank.
+    const char* blank = strrchr(place, ' ');
+    tmp_brix_proc_filename = strndup(place, static_cast<std::size_t>(blank - place));
+    tmp_brix_proc_linenum = atoi(blank + 1);
+    tmp_brix_cmd_frame_linenum = frame_line;
+    return TCL_OK;
+}
+
+int get_current_brix_file_line_num(const char** file_out) {
+    // Level -1 is the command whose procedure asks.
+    if (Tcl_Eval(brixgen_interp, "info frame -1") == TCL_ERROR &&
+        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+        return 1;
+    }
+    const std::string parse =
+        std::string("__brix_parse_info_frame_level_info__ ") + Tcl_GetStringResult(brixgen_interp);
+    if (Tcl_Eval(brixgen_interp, parse.c_str()) == TCL_ERROR &&
+        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+        return 1;
+    }
+    Tcl_ResetResult(brixgen_interp);
+    const int line = tmp_brix_cmd_frame_linenum;
+    if (tmp_brix_proc_filename != nullptr) {
+        *file_out = tmp_brix_proc_filename;
+        return line + tmp_brix_proc_linenum - 1;
+    }
+    if (line <= 0 || lineno_cache.empty()) {
+        *file_out = reading_brix_file;
+        return line < 0 ? 0 : line;
+    }
+    const lineno_cache_entry& anchor = lineno_cache.back();
+    *file_out = anchor.file_name.c_str();
+    return line + anchor.file_line - anchor.frame_line;
+}
+
+int emit_brix_hashline(lineno_cache_entry* where) {
+    const char* file = nullptr;
+    const int line = get_current_brix_file_line_num(&file);
+    if (line < 1 || file == nullptr) {
+        position_failed();
+    }
+    if (where != nullptr) {
+        *where = {1, line, file};
+    }
+    return brix_eval_checked("puts \"BRIX_HASHLINE " + std::to_string(line) + " " + file + "\"");
+}
+
+int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
+    if (argc != 4) {
+        brix_error("Wrong # args: should be \"proc name args body\"\n");
+    }
+    const char* file = nullptr;
+    const int line = get_current_brix_file_line_num(&file);
+    if (line < 1 || file == nullptr) {
+        position_failed();
+    }
+    const std::string place = std::string(file) + " " + std::to_string(line);
+    // A later definition of the same name replaces the place.
+    if (get_str2str_map_value(all_procs_location_info, argv[1]) != nullptr) {
+        update_str2str_map_entry(all_procs_location_info, argv[1], brix_strdup(place.c_str()));
+    } else {
+        add_str2str_map_entry(all_procs_location_info, brix_strdup(argv[1]),
+                              brix_strdup(place.c_str()));
+    }
+
+    // Handed over as words, so that a body with unbalanced braces or a trailing backslash
+    // reaches Tcl's `proc` as it was written.
+    Tcl_Obj* words[4] = {Tcl_NewStringObj("__brix_proc_original__", -1),
+                         Tcl_NewStringObj(argv[1], -1), Tcl_NewStringObj(argv[2], -1),
+                         Tcl_NewStringObj(argv[3], -1)};
+    for (Tcl_Obj* w : words) {
+        Tcl_IncrRefCount(w);
+    }
+    const int status = Tcl_EvalObjv(interp, 4, words, 0);
+    for (Tcl_Obj* w : words) {
+        Tcl_DecrRefCount(w);
+    }
+    return status == TCL_ERROR ? brix_check_result(status) : TCL_OK;
+}

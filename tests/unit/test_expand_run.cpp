@@ -1,0 +1,187 @@
+// Hash lines across files, procedures and nested bodies; `source`; the run's own
+// results and failures.
+#include "expand_harness.hpp"
+
+#include <vector>
+
+namespace {
+
+using expand_test::expand_in;
+using expand_test::hash;
+using expand_test::scratch_dir;
+
+// "line file" of every hash line, in order.
+std::vector<std::string> hash_lines(const std::string& pure) {
+    static const std::string mark = "BRIX_HASHLINE ";
+    std::vector<std::string> found;
+    for (std::size_t at = pure.find(mark); at != std::string::npos; at = pure.find(mark, at)) {
+        at += mark.size();
+        const std::size_t end = pure.find('\n', at);
+        found.push_back(pure.substr(at, end - at));
+    }
+    return found;
+}
+
+using lines = std::vector<std::string>;
+
+TEST(ExpandLines, NestedBodiesAndLoopsCountFromTheFile) {
+    EXPECT_EQ(hash_lines(expand_test::expand_script("block b {\n"
+                                                    "  bytes 4\n"
+                                                    "  register r {\n"
+                                                    "    bytes 1\n"
+                                                    "    field f {\n"
+                                                    "      bits 1\n"
+                                                    "    }\n"
+                                                    "  }\n"
+                                                    "}\n"
+                                                    "\n"
+                                                    "foreach i {1 2} {\n"
+                                                    "  block c$i {\n"
+                                                    "    bytes $i\n"
+                                                    "  }\n"
+                                                    "}\n"
+                                                    "if {1} {\n"
+                                                    "  bytes 9\n"
+                                                    "}\n"
+                                                    "block d {\n"
+                                                    "  while {[incr k] < 2} {\n"
+                                                    "\n"
+                                                    "    catch { bytes 22 }\n"
+                                                    "  }\n"
+                                                    "}\n")),
+              (lines{"1 top.brix", "2 top.brix", "3 top.brix", "4 top.brix", "5 top.brix",
+                     "6 top.brix", "12 top.brix", "13 top.brix", "12 top.brix", "13 top.brix",
+                     "17 top.brix", "19 top.brix", "22 top.brix"}));
+}
+
+TEST(ExpandLines, ProcBodiesCountFromTheDefinitionNotTheCall) {
+    scratch_dir dir;
+    dir.write("top.brix", "# procedures\n"
+                          "proc mk {n} {\n"
+                          "  register $n {\n"
+                          "    bytes 1\n"
+                          "  }\n"
+                          "  foreach w {1} {\n"
+                          "    bytes $w\n"
+                          "  }\n"
+                          "}\n"
+                          "block b {\n"
+                          "  bytes 4\n"
+                          "}\n"
+                          "source lib.brix\n"
+                          "mk r1\n"
+                          "lib_reg q\n");
+    dir.write("lib.brix", "\n"
+                          "proc lib_reg {n} {\n"
+                          "\n"
+                          "  field $n { bits 2 }\n"
+                          "}\n");
+    const auto run = expand_in(dir, "top.brix");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(hash_lines(run.pure), (lines{"10 top.brix", "11 top.brix", "3 top.brix", "4 top.brix",
+                                           "7 top.brix", "4 lib.brix", "4 lib.brix"}));
+}
+
+TEST(ExpandLines, SourcedFileStartsAtItsOwnLineOneAtTheCurrentIndent) {
+    scratch_dir dir;
+    dir.write("top.brix", "block b {\n"
+                          "  bytes 1\n"
+                          "  source inc.brix\n"
+                          "  bytes 2\n"
+                          "}\n");
+    dir.write("inc.brix", "\n\nregister r {\n  bytes 8\n}\n");
+    const auto run = expand_in(dir, "top.brix");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.pure, hash(1) + "block b {\n" + hash(2) + "\tbytes 1 \n" + hash(3, "inc.brix") +
+                            "\tregister r {\n" + hash(4, "inc.brix") + "\t\tbytes 8 \n\t}\n" +
+                            hash(4) + "\tbytes 2 \n}\n\n\n");
+}
+
+TEST(ExpandSource, RelativeToTheTopFilesDirectoryWithoutSearchPath) {
+    scratch_dir dir;
+    dir.write("proj/top.brix", "source inc/x.brix\n");
+    dir.write("proj/inc/x.brix", "bytes 1\n");
+    const auto run = expand_in(dir, "proj/top.brix");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.pure, hash(1, "inc/x.brix") + "bytes 1 \n");
+}
+
+TEST(ExpandSource, SearchPathInOrderThenTheTopFilesDirectory) {
+    scratch_dir dir;
+    dir.write("top.brix", "source x.brix\n");
+    dir.write("a/x.brix", "bytes 1\n");
+    dir.write("b/x.brix", "bytes 2\n");
+    dir.write("x.brix", "bytes 3\n");
+    const std::string root = dir.path().string();
+    EXPECT_EQ(expand_in(dir, "top.brix", "a:b").pure, hash(1, root + "/a/x.brix") + "bytes 1 \n");
+    EXPECT_EQ(expand_in(dir, "top.brix", "b:a").pure, hash(1, root + "/b/x.brix") + "bytes 2 \n");
+    EXPECT_EQ(expand_in(dir, "top.brix", "c").pure, hash(1, "x.brix") + "bytes 3 \n");
+}
+
+TEST(ExpandRun, EmptyErrorStopsItsScriptButNotTheRun) {
+    scratch_dir dir;
+    dir.write("top.brix", "source inc.brix\n"
+                          "block b {\n"
+                          "  error \"\"\n"
+                          "  bytes 2\n"
+                          "}\n"
+                          "bytes 6\n"
+                          "error \"\"\n"
+                          "bytes 8\n");
+    dir.write("inc.brix", "bytes 1\nerror \"\"\nbytes 3\n");
+    const auto run = expand_in(dir, "top.brix");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.pure, hash(1, "inc.brix") + "bytes 1 \n" + hash(2) + "block b {\n}\n\n\n" +
+                            hash(6) + "bytes 6 \n");
+}
+
+TEST(ExpandRun, TheScriptsLastResultIsPrinted) {
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nset x 5\n"), hash(1) + "bytes 1 \n5");
+}
+
+TEST(ExpandRun, ResultsOfBodiesAreWrittenInOrder) {
+    EXPECT_EQ(expand_test::expand_script("block b {\n  bytes 1\n  set x 7\n}\n"),
+              hash(1) + "block b {\n" + hash(2) + "\tbytes 1 \n7}\n\n\n");
+}
+
+TEST(ExpandRun, FailuresEndTheRunAndRemoveThePureFile) {
+    struct failure {
+        const char* script;
+        const char* err;
+    };
+    const failure cases[] = {
+        {"source\n", "wrong # args: should be \"source fileName\"\n"},
+        {"source nope.brix\n", "Error: Failed to open file nope.brix ... exiting!\n"},
+        {"proc a b\n", "Wrong # args: should be \"proc name args body\"\n\n"},
+        {"namespace eval ns { proc a {} { bytes 1 } }\nns::a\n",
+         "Error: invalid command name \"ns::a\"\n\n"},
+    };
+    for (const failure& c : cases) {
+        scratch_dir dir;
+        dir.write("top.brix", c.script);
+        const auto run = expand_in(dir, "top.brix");
+        EXPECT_EQ(run.status, 1) << c.script;
+        EXPECT_EQ(run.err, c.err) << c.script;
+        EXPECT_EQ(run.pure, "") << c.script;
+    }
+}
+
+TEST(ExpandRun, ErrorLineSumsUpThroughNestedBodies) {
+    scratch_dir dir;
+    dir.write("top.brix", "set a 1\n"
+                          "\n"
+                          "block b {\n"
+                          "  set x 1\n"
+                          "  register r {\n"
+                          "\n"
+                          "     nosuch 1\n"
+                          "  }\n"
+                          "}\n");
+    const auto run = expand_in(dir, "top.brix");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err.rfind("\ninvalid command name \"nosuch\"\n    while executing\n", 0), 0u);
+    EXPECT_TRUE(run.err.ends_with("}\" (file \"top.brix\" line 7)\n")) << run.err;
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+// The scanner on its own: token classes, start conditions, line counting, and the bytes
+// that no rule takes, which go to the standard output.
+#include "parser_test_support.hpp"
+
+#include "grammar.hpp"
+
+#include <vector>
+
+using namespace brix_test;
+
+namespace {
+
+struct token {
+    int kind;
+    std::string text; // the semantic text, for the tokens that carry one
+    bool operator==(const token&) const = default;
+};
+
+bool carries_text(int kind) {
+    return kind == IDENTIFIER || kind == DECIMAL_INT || kind == NUMBER || kind == STRING_LIT ||
+           kind == COVER_SPEC || kind == DOC_BODY || kind == CONSTRAINT_BODY;
+}
+
+struct scan_result {
+    std::vector<token> tokens;
+    std::string echoed;
+};
+
+scan_result scan(const char* text) {
+    initialize();
+    brix_src_file_linenum = 0;
+    brix_scanner_use_string(text);
+    scan_result result;
+    testing::internal::CaptureStdout();
+    for (int kind; (kind = yylex()) != 0;) {
+        result.tokens.push_back({kind, carries_text(kind) ? yylval.str : ""});
+    }
+    fflush(stdout);
+    result.echoed = testing::internal::GetCapturedStdout();
+    return result;
+}
+
+std::vector<token> tokens_of(const char* text) {
+    return scan(text).tokens;
+}
+
+TEST(Scanner, NumbersAndIdentifiersAtTheirEdges) {
+    EXPECT_EQ(tokens_of("0x"), (std::vector<token>{{DECIMAL_INT, "0"}, {IDENTIFIER, "x"}}));
+    EXPECT_EQ(tokens_of("_1a _1 __"),
+              (std::vector<token>{{IDENTIFIER, "_1a"}, {DECIMAL_INT, "_1"}, {DECIMAL_INT, "__"}}));
+    EXPECT_EQ(tokens_of("0x1F 8'hFF 'b1_0 12'd9 3'o7 8'hxz"),
+              (std::vector<token>{{NUMBER, "0x1F"},
+                                  {NUMBER, "8'hFF"},
+                                  {NUMBER, "'b1_0"},
+                                  {NUMBER, "12'd9"},
+                                  {NUMBER, "3'o7"},
+                                  {NUMBER, "8'hxz"}}));
+    EXPECT_EQ(tokens_of("reset reset1 hard_reset"),
+              (std::vector<token>{{HARD_RESET, ""}, {IDENTIFIER, "reset1"}, {HARD_RESET, ""}}));
+}
+
+TEST(Scanner, UnreadRadixFormsLeaveTheApostropheOnStdout) {
+    scan_result r = scan("12'h");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{DECIMAL_INT, "12"}, {IDENTIFIER, "h"}}));
+    EXPECT_EQ(r.echoed, "'");
+    r = scan("4'B1");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{DECIMAL_INT, "4"}, {IDENTIFIER, "B1"}}));
+    EXPECT_EQ(r.echoed, "'");
+}
+
+TEST(Scanner, BackquoteStartsAnIdentifierOnly) {
+    EXPECT_EQ(tokens_of("a`b"), (std::vector<token>{{IDENTIFIER, "a"}, {IDENTIFIER, "`b"}}));
+}
+
+TEST(Scanner, StrayCharactersGoToStdout) {
+    scan_result r = scan("+f-a");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{'+', ""}, {IDENTIFIER, "f"}, {IDENTIFIER, "a"}}));
+    EXPECT_EQ(r.echoed, "-");
+    r = scan("a;b \"#");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{IDENTIFIER, "a"}, {IDENTIFIER, "b"}}));
+    EXPECT_EQ(r.echoed, ";\"#");
+    EXPECT_EQ(tokens_of("++ -- @ %"),
+              (std::vector<token>{{INC_OP, ""}, {DEC_OP, ""}, {'@', ""}, {'%', ""}}));
+}
+
+TEST(Scanner, ConstraintAndDocBodiesAreRawText) {
+    EXPECT_EQ(tokens_of("constraint c {}"),
+              (std::vector<token>{{CONSTRAINT, ""}, {IDENTIFIER, "c"}, {'{', ""}, {'}', ""}}));
+    // Keywords are plain identifiers in a constraint head; braces nest in a body.
+    EXPECT_EQ(tokens_of("constraint field { a { b } ; } bits"),
+              (std::vector<token>{{CONSTRAINT, ""},
+                                  {IDENTIFIER, "field"},
+                                  {'{', ""},
+                                  {CONSTRAINT_BODY, " a { b } ; "},
+                                  {'}', ""},
+                                  {BITS, ""}}));
+    EXPECT_EQ(tokens_of("doc {\nfield x\n}"),
+              (std::vector<token>{{DOC, ""}, {'{', ""}, {DOC_BODY, "\nfield x\n"}, {'}', ""}}));
+    EXPECT_EQ(tokens_of("doc\n{}"), (std::vector<token>{{DOC, ""}, {'{', ""}, {'}', ""}}));
+}
+
+TEST(Scanner, CoverTakesOnlyItsSpecAndDropsTheRest) {
+    scan_result r = scan("cover = +b-a field");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{COVER, ""}, {COVER_SPEC, "+b-a"}, {FIELD, ""}}));
+    EXPECT_EQ(r.echoed, "=");
+}
+
+TEST(Scanner, AttributesHaveTheirOwnWords) {
+    EXPECT_EQ(tokens_of("attributes { size \"x y\n\", n 8, _ }"),
+              (std::vector<token>{{ATTRIBUTES, ""},
+                                  {'{', ""},
+                                  {IDENTIFIER, "size"},
+                                  {STRING_LIT, "x y\n"},
+                                  {',', ""},
+                                  {IDENTIFIER, "n"},
+                                  {DECIMAL_INT, "8"},
+                                  {',', ""},
+                                  {DECIMAL_INT, "_"},
+                                  {'}', ""}}));
+}
+
+TEST(Scanner, HashLinesSetThePlaceAndTheirOwnNewlineDoesNotCount) {
+    scan_result r = scan("BRIX_HASHLINE 12 dir/top.brix");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    EXPECT_STREQ(brix_src_file_name, "dir/top.brix");
+    EXPECT_EQ(brix_src_file_linenum, 12u);
+    // All digits is a line number, digits and letters a file name.
+    r = scan("BRIX_HASHLINE 12x");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {FILENAME, ""}}));
+    EXPECT_STREQ(brix_src_file_name, "12x");
+}
+
+TEST(Scanner, NewlinesInBodiesAndStringsCount) {
+    // The parser clears the flag after a line number; here the scanner alone runs, so
+    // the first newline counts for nothing, like the one ending a hash line.
+    initialize();
+    brix_scanner_use_string("\na\nb\n");
+    brix_src_file_linenum = 12;
+    while (yylex() != 0) {
+    }
+    EXPECT_EQ(brix_src_file_linenum, 14u);
+
+    initialize();
+    brix_scanner_use_string("\ndoc {\n\n\n}");
+    brix_src_file_linenum = 12;
+    while (yylex() != 0) {
+    }
+    EXPECT_EQ(brix_src_file_linenum, 15u);
+
+    initialize();
+    brix_scanner_use_string("\nattributes { a \"x\ny\" }\n");
+    brix_src_file_linenum = 1;
+    while (yylex() != 0) {
+    }
+    EXPECT_EQ(brix_src_file_linenum, 3u);
+}
+
+TEST(Scanner, UnterminatedBodyEndsTheRun) {
+    const child_result r = run_in_child([] {
+        initialize();
+        brix_scanner_use_string("doc { never closed");
+        while (yylex() != 0) {
+        }
+    });
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.err.rfind("Fatal error: realloc of ", 0), 0u) << r.err;
+}
+
+} // namespace
