@@ -4,6 +4,7 @@
 #include <string>
 
 #include "driver/driver.hpp"
+#include "parser/action_support.hpp"
 #include "parser/parse_state.hpp"
 #include "parser/scope.hpp"
 #include "semantic/model_copy.hpp"
@@ -12,33 +13,6 @@ namespace {
 bool is_unused_or_reserved(const char* name) {
     return std::strcmp(name, "unused") == 0 || std::strcmp(name, "reserved") == 0;
 }
-
-bool is_one_of(const char* word, std::initializer_list<const char*> words) {
-    for (const char* w : words) {
-        if (std::strcmp(word, w) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
-const char* either(const char* name, const char* fallback) {
-    return name != nullptr ? name : fallback;
-}
-
-int32_t decimal(const char* text) {
-    return static_cast<int32_t>(brix_str_to_dec(10, text));
-}
-
-void refuse_defined_here(const char* name, const char* message) {
-    if (lookup_local_symbol(name) != nullptr) {
-        brix_yyerror(message, name);
-    }
-}
-
-constexpr const char* MULTIPLE_DEFINITION =
-    "Error: Multiple definition of symbol '%s' in same scope.";
-constexpr const char* ALREADY_DEFINED = "Error: Symbol '%s' already defined in the current scope.";
 
 // Appends to a list of records linked through `next`. The tail of the list last appended
 // to is remembered, so that building one long list stays linear.
@@ -58,14 +32,6 @@ template <class T> void append_linked(T*& head, T* item) {
     last_tail = item;
 }
 
-void append_node(brix_list_tag*& head, int tag, void* data) {
-    if (head == nullptr) {
-        head = create_brix_list_node(tag, data);
-    } else {
-        add_to_brix_list_end(head, tag, data);
-    }
-}
-
 char* concat(std::initializer_list<const char*> parts) {
     std::string s;
     for (const char* p : parts) {
@@ -74,56 +40,6 @@ char* concat(std::initializer_list<const char*> parts) {
         }
     }
     return brix_strdup(s.c_str());
-}
-
-brix_symrec* global_symbol_of_kind(const char* name, int kind) {
-    brix_symrec* sym = lookup_global_symbol(name);
-    return sym != nullptr && sym->kind == kind ? sym : nullptr;
-}
-
-// The bytes check: the smallest whole number of bytes that holds the fields, offsets
-// counted; a type without `bytes` takes that number.
-template <class Type> bool valid_bytes(Type* type) {
-    int32_t used = 0;
-    for (const brix_list_tag* n = type->fields; n != nullptr; n = n->next) {
-        const auto* field = static_cast<const brix_field_tag*>(n->data);
-        if (field->offset != nullptr) {
-            const int64_t end = static_cast<int64_t>(to_dec(field->offset)) + field->type->bits;
-            if (end > used) {
-                used = static_cast<int32_t>(end);
-            }
-        } else {
-            used += static_cast<int32_t>(field->type->bits);
-        }
-    }
-    const int32_t needed = used / 8 + (used % 8 != 0 ? 1 : 0);
-    if (type->bytes == -1) {
-        type->bytes = needed;
-        return true;
-    }
-    return type->bytes >= needed;
-}
-
-template <class Type> void check_left_to_right_first_field(const Type* type, const char* message) {
-    if (type->left_to_right != 1 || type->fields == nullptr) {
-        return;
-    }
-    const auto* first = static_cast<const brix_field_tag*>(type->fields->data);
-    if (first->offset != nullptr) {
-        brix_yyerror(message, first->name, type->name);
-    }
-}
-
-const char* const REGISTER_LEFT_TO_RIGHT =
-    "Error: First field (%s) of a left_to_right register (%s) cannot have bit-offset specified.";
-const char* const VREGISTER_LEFT_TO_RIGHT =
-    "Error: First field (%s) of a left_to_right vregister (%s) cannot have bit-offset "
-    "specified.";
-
-void set_cvr_used_if_null(brix_cvr_spec_tag*& used) {
-    if (used == nullptr) {
-        used = new_all_unsaid_cvr_spec();
-    }
 }
 
 brix_hdl_path_tag* tmp_hdl_path_tail = nullptr;
@@ -928,6 +844,11 @@ void memory_set_cover(char* text) {
 
 void end_global_memory_type() {
     close_definition_scope();
+    check_memory_type_complete();
+    end_global_definition(tmp_memory_type, BRIX_MEMORY_TYPE);
+}
+
+void check_memory_type_complete() {
     if (tmp_memory_type->bits == 0) {
         brix_yyerror("Error: Memory '%s' - Mandatory property 'bits' not specified or invalid "
                      "value specified.",
@@ -939,7 +860,6 @@ void end_global_memory_type() {
                      memory_type_display_name());
     }
     set_cvr_used_if_null(tmp_memory_type->cvr_used);
-    end_global_definition(tmp_memory_type, BRIX_MEMORY_TYPE);
 }
 
 // Register files and register instances ----------------------------------------------
@@ -957,19 +877,6 @@ void end_global_regfile_type() {
 }
 
 namespace {
-// A second instance of one name is allowed for a shared register or memory placed again
-// under the same definition.
-template <class Instance>
-bool shared_instance_allowed(const brix_symrec* existing, int kind, int8_t new_type_shared,
-                             const char* new_type_name) {
-    if (existing->kind != kind || new_type_shared != 1) {
-        return false;
-    }
-    const auto* other = static_cast<const Instance*>(existing->data);
-    return other->type != nullptr && other->type->is_shared == 1 &&
-           std::strcmp(other->type->name, new_type_name) == 0;
-}
-
 // Path tests of a register instance; they apply to backdoor generation only.
 void check_register_instance_path(const brix_hdl_path_tag* path, int array_size, const char* name) {
     if (!brix_gen_backdoor) {
@@ -996,21 +903,6 @@ void check_register_instance_path(const brix_hdl_path_tag* path, int array_size,
                          name);
         }
     }
-}
-
-// The one copy of a shared definition per block, or a copy of the definition's own.
-template <class Type>
-Type* resolve_instance_type(Type* definition, brix_str2voidptr_map* shared_copies,
-                            Type* (*copier)(const Type*)) {
-    if (definition->is_shared != 1 || shared_copies == nullptr) {
-        return copier(definition);
-    }
-    if (void* hit = get_str2voidptr_map_value(*shared_copies, definition->name)) {
-        return static_cast<Type*>(hit);
-    }
-    Type* copy = copier(definition);
-    add_str2voidptr_map_entry(*shared_copies, brix_strdup(definition->name), copy);
-    return copy;
 }
 
 void set_register_placement(int array_size, brix_hdl_path_tag* path, char* offset,
@@ -1065,9 +957,7 @@ void register_instance_flags(char* rw_flag, char* cover) {
 
 void begin_inline_register_type() {
     tmp_register_type = new_register_type(tmp_register_type_name);
-    if (current_scope->name != nullptr) {
-        tmp_register_type->scope_prefix = brix_strdup(current_scope->name);
-    }
+    tmp_register_type->scope_prefix = current_scope_prefix();
     open_definition_scope(tmp_register_type_name);
 }
 
@@ -1116,22 +1006,40 @@ void check_register_instance_type() {
 }
 } // namespace
 
-void finish_register_instance_in_regfile(char* ident, int form) {
+namespace {
+// The register instance rules of a block and of a regfile differ in their messages, in
+// the shared rule (a block's alone) and in the list that takes the instance.
+void finish_register_instance(char* ident, int form, bool in_block) {
     if (form == 0) {
         const brix_symrec* def = global_symbol_of_kind(ident, BRIX_REGISTER_TYPE);
         if (def == nullptr) {
+            if (in_block) {
+                brix_yyerror("Error: Undefined Register '%s' - Trying to instantiate it.", ident);
+            }
             brix_yyerror("Error: In Regfile '%s' - Trying to instantiate undefined register '%s'.",
                          regfile_type_display_name(), ident);
         }
         auto* definition = static_cast<brix_register_type_tag*>(def->data);
         if (tmp_register->name == nullptr) {
             tmp_register->name = ident;
-            refuse_defined_here(ident, MULTIPLE_DEFINITION);
-            create_and_insert_symrec(current_scope, ident, BRIX_REGISTER, tmp_register);
+            if (const brix_symrec* existing = lookup_local_symbol(ident)) {
+                if (!in_block ||
+                    !shared_instance_allowed<brix_register_tag>(
+                        existing, BRIX_REGISTER, definition->is_shared, definition->name)) {
+                    brix_yyerror(MULTIPLE_DEFINITION, ident);
+                }
+            } else {
+                create_and_insert_symrec(current_scope, ident, BRIX_REGISTER, tmp_register);
+            }
         }
         tmp_register->type = resolve_instance_type(definition, tmp_shared_regs, copy_register_type);
         const bool shared = tmp_register->type->is_shared == 1;
         if (tmp_register->rw_flag != nullptr && !shared) {
+            if (in_block) {
+                brix_yyerror("Error: Register '%s' - Unsharable register - Trying to use "
+                             "read/write shared access flag while instantiating it.",
+                             tmp_register->name);
+            }
             brix_yyerror("Error: Register '%s' - Trying to use read/write shared access flag while "
                          "instantiating this register even though it is unshareable.",
                          tmp_register->name);
@@ -1149,6 +1057,16 @@ void finish_register_instance_in_regfile(char* ident, int form) {
         create_and_insert_symrec(current_scope, ident, BRIX_REGISTER, tmp_register);
     }
     check_register_instance_type();
-    append_node(tmp_regfile_type->registers, BRIX_REGISTER, tmp_register);
+    append_node(in_block ? tmp_block_domain->components : tmp_regfile_type->registers,
+                BRIX_REGISTER, tmp_register);
     tmp_register = nullptr;
+}
+} // namespace
+
+void finish_register_instance_in_regfile(char* ident, int form) {
+    finish_register_instance(ident, form, false);
+}
+
+void finish_register_instance_in_block(char* ident, int form) {
+    finish_register_instance(ident, form, true);
 }

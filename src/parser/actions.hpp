@@ -109,6 +109,8 @@ void memory_set_noise(char* word);
 void memory_set_shared(brix_hdl_path_tag* path);
 void memory_set_cover(char* text);
 void end_global_memory_type();
+// The tests at the end of a memory type, global or inline: bits, size, cvr_used.
+void check_memory_type_complete();
 
 // Register files and the register instances in them.
 void begin_global_regfile_type(char* name);
@@ -122,3 +124,4 @@ void register_instance_flags(char* rw_flag, char* cover);
 void begin_inline_register_type();
 void inline_register_before_close();
 void finish_register_instance_in_regfile(char* ident, int form);
+void finish_register_instance_in_block(char* ident, int form);

@@ -1,6 +1,7 @@
 /* Grammar of the pure description. The actions build the model; their checks live in
    actions.cpp, in the order in which the rules below call them. */
 %code requires {
+#include "parser/block_actions.hpp"
 #include "parser/model.hpp"
 }
 
@@ -31,6 +32,7 @@ static const char* brix_bison_text(const char* text) {
     brix_hdl_path_tag* path;
     brix_list_tag* list;
     brix_cvr_bin_value* bin_value;
+    brix_saved_system_vars* saved;
 }
 
 /* Declared in this order: the order fixes the token numbers. */
@@ -55,14 +57,16 @@ static const char* brix_bison_text(const char* text) {
 %type <str> cover_spec memsize memsize_unit read_write_flag optional_number
 %type <num> field_declaration field_declaration_continued mem_inc_dec_op
 %type <num> array_subscript_spec register_declaration register_declaration_continued
-%type <num> bins_specification_contd1
+%type <num> bins_specification_contd1 vregister_declaration regfile_declaration
+%type <num> regfile_declaration_continued memory_declaration memory_declaration_continued
+%type <str> rename
 %type <path> hdl_path
 %type <list> cross_id_list
 %type <bin_value> bins_value bin_id_or_num_value
 
 /* A `cover` right behind an instance that ends without braces is taken as the start of the
    instance's own clause: the shift is preferred over ending the instance. */
-%expect 4
+%expect 15
 
 %%
 
@@ -77,6 +81,8 @@ brix_global_entry
     | global_vregister_definition
     | global_memory_definition
     | global_regfile_definition
+    | global_block_definition
+    | global_system_definition
     | hash_line_declaration
     ;
 
@@ -139,6 +145,11 @@ increment
 number
     : DECIMAL_INT
     | NUMBER
+    ;
+
+rename
+    : '=' IDENTIFIER { $$ = $2; }
+    | %empty { $$ = nullptr; }
     ;
 
 optional_identifier
@@ -521,6 +532,247 @@ register_declaration_continued
           register_instance_flags($1, $2);
           $$ = 0;
       }
+    ;
+
+
+/* Blocks ------------------------------------------------------------------------------- */
+
+global_block_definition
+    : BLOCK IDENTIFIER { begin_global_container(BRIX_BLOCK, $2); }
+      '{' { open_container_body(BRIX_BLOCK); }
+      block_or_domain_properties { container_body_before_close(BRIX_BLOCK); }
+      '}' { end_global_container(BRIX_BLOCK); }
+    ;
+
+block_or_domain_properties
+    : block_or_domain_property
+    | block_or_domain_properties block_or_domain_property
+    ;
+
+/* `doc` and `cover` at block level belong to the block type and open no default domain. */
+block_or_domain_property
+    : { before_container_level_property(BRIX_BLOCK); } block_property
+    | block_domain_definition
+    | COVER COVER_SPEC { store_cvr_spec(tmp_block_type->cvr_spec, $2); }
+    | { begin_doc(tmp_block_type->doc); } doc_specification
+    | hash_line_declaration
+    ;
+
+block_domain_definition
+    : DOMAIN { begin_container_domain(BRIX_BLOCK); }
+      IDENTIFIER offset { name_container_domain(BRIX_BLOCK, $3, $4); }
+      '{' domain_block_properties '}' { end_container_domain(BRIX_BLOCK); }
+    ;
+
+domain_block_properties
+    : nonempty_domain_block_properties
+    | %empty { brix_yyerror("Error: Empty Block Domain found."); }
+    ;
+
+nonempty_domain_block_properties
+    : nonempty_domain_block_property
+    | nonempty_domain_block_properties nonempty_domain_block_property
+    ;
+
+nonempty_domain_block_property
+    : nonempty_block_property
+    | COVER COVER_SPEC { store_cvr_spec(tmp_block_domain->cvr_spec, $2); }
+    ;
+
+nonempty_block_property
+    : block_property
+    | hash_line_declaration
+    ;
+
+block_property
+    : BYTES DECIMAL_INT { container_set_bytes(BRIX_BLOCK, $2); }
+    | ENDIAN IDENTIFIER { container_set_endian(BRIX_BLOCK, $2); }
+    | REGISTER IDENTIFIER { begin_register_instance($2); } register_declaration {
+          finish_register_instance_in_block($2, $4);
+      }
+    | VIRTUAL REGISTER IDENTIFIER { begin_vregister_instance($3); } vregister_declaration {
+          finish_vregister_instance($3, $5);
+      }
+    | REGFILE IDENTIFIER { begin_regfile_instance($2); } regfile_declaration {
+          finish_regfile_instance($2, $4);
+      }
+    | MEMORY IDENTIFIER { begin_memory_instance($2); } memory_declaration {
+          finish_memory_instance($2, $4);
+      }
+    | ATTRIBUTES { refuse_second_container_attributes(BRIX_BLOCK); }
+      '{' attribute_list '}' { take_container_attributes(BRIX_BLOCK); }
+    | { begin_constraint(tmp_block_domain->constraints); } constraint_definition
+    ;
+
+/* Instances in a block: 0 without an inline body, 1 with one. */
+vregister_declaration
+    : '=' IDENTIFIER { vregister_instance_renamed($2); }
+      vregister_declaration_continued_0 cover_spec {
+          vregister_instance_cover($5);
+          $$ = 0;
+      }
+    | vregister_declaration_continued_0 vregister_declaration_continued_1 { $$ = 1; }
+    ;
+
+vregister_declaration_continued_0
+    : array_subscript_spec IDENTIFIER offset increment {
+          vregister_static_placement($1, $2, $3, $4);
+      }
+    | %empty { vregister_dynamic_placement(); }
+    ;
+
+vregister_declaration_continued_1
+    : '{' { begin_inline_vregister_type(); }
+      vregister_properties { inline_vregister_before_close(); } '}'
+    ;
+
+regfile_declaration
+    : '=' IDENTIFIER array_subscript_spec hdl_path offset {
+          regfile_instance_renamed($2, $3, $4, $5);
+      }
+      increment cover_spec {
+          regfile_instance_renamed_end($7, $8);
+          $$ = 0;
+      }
+    | array_subscript_spec hdl_path offset increment {
+          regfile_instance_place($1, $2, $3, $4);
+      }
+      regfile_declaration_continued { $$ = $6; }
+    ;
+
+regfile_declaration_continued
+    : '{' { begin_inline_regfile_type(); } regfile_properties { inline_regfile_before_close(); }
+      '}' { $$ = 1; }
+    | cover_spec {
+          regfile_instance_cover($1);
+          $$ = 0;
+      }
+    ;
+
+memory_declaration
+    : '=' IDENTIFIER hdl_path offset { memory_instance_renamed($2, $3, $4); }
+      read_write_flag cover_spec {
+          memory_instance_renamed_end($6, $7);
+          $$ = 0;
+      }
+    | hdl_path offset { memory_instance_place($1, $2); } memory_declaration_continued {
+          $$ = $4;
+      }
+    ;
+
+memory_declaration_continued
+    : '{' { begin_inline_memory_type(); } memory_properties { inline_memory_before_close(); }
+      '}' { $$ = 1; }
+    | read_write_flag cover_spec {
+          memory_instance_flags($1, $2);
+          $$ = 0;
+      }
+    ;
+
+/* Systems ------------------------------------------------------------------------------ */
+
+global_system_definition
+    : SYSTEM IDENTIFIER { begin_global_container(BRIX_SYSTEM, $2); }
+      '{' { open_container_body(BRIX_SYSTEM); }
+      system_or_domain_properties { container_body_before_close(BRIX_SYSTEM); }
+      '}' { end_global_container(BRIX_SYSTEM); }
+    ;
+
+system_or_domain_properties
+    : system_or_domain_property
+    | system_or_domain_properties system_or_domain_property
+    ;
+
+system_or_domain_property
+    : { before_container_level_property(BRIX_SYSTEM); } system_property
+    | system_domain_definition
+    | { begin_doc(tmp_system_type->doc); } doc_specification
+    | COVER COVER_SPEC { store_cvr_spec(tmp_system_type->cvr_spec, $2); }
+    | hash_line_declaration
+    ;
+
+system_domain_definition
+    : DOMAIN { begin_container_domain(BRIX_SYSTEM); }
+      IDENTIFIER offset { name_container_domain(BRIX_SYSTEM, $3, $4); }
+      '{' domain_system_properties '}' { end_container_domain(BRIX_SYSTEM); }
+    ;
+
+domain_system_properties
+    : nonempty_domain_system_properties
+    | %empty { brix_yyerror("Error: Empty System Domain found."); }
+    ;
+
+nonempty_domain_system_properties
+    : nonempty_domain_system_property
+    | nonempty_domain_system_properties nonempty_domain_system_property
+    ;
+
+nonempty_domain_system_property
+    : nonempty_system_property
+    | COVER COVER_SPEC { store_cvr_spec(tmp_system_domain->cvr_spec, $2); }
+    ;
+
+nonempty_system_property
+    : system_property
+    | hash_line_declaration
+    ;
+
+system_property
+    : BYTES DECIMAL_INT { container_set_bytes(BRIX_SYSTEM, $2); }
+    | ENDIAN IDENTIFIER { container_set_endian(BRIX_SYSTEM, $2); }
+    | BLOCK IDENTIFIER { begin_block_instance($2); } block_declaration {
+          finish_block_instance();
+      }
+    | SYSTEM IDENTIFIER <saved>{ $$ = begin_system_instance($2); } system_declaration {
+          finish_system_instance($3);
+      }
+    | ATTRIBUTES { refuse_second_container_attributes(BRIX_SYSTEM); }
+      '{' attribute_list '}' { take_container_attributes(BRIX_SYSTEM); }
+    | { begin_constraint(tmp_system_domain->constraints); } constraint_definition
+    ;
+
+/* Block and system instances: qualified by a domain of the definition, renamed with `=`,
+   by the definition's name, or inline. */
+block_declaration
+    : '.' IDENTIFIER rename array_subscript_spec hdl_path offset {
+          container_instance_in_domain(BRIX_BLOCK, $2, $3, $4, $5, $6);
+      }
+      increment cover_spec { container_instance_tail(BRIX_BLOCK, $8, $9); }
+    | '=' IDENTIFIER array_subscript_spec hdl_path offset {
+          container_instance_renamed(BRIX_BLOCK, $2, $3, $4, $5);
+      }
+      increment cover_spec { container_instance_tail(BRIX_BLOCK, $7, $8); }
+    | array_subscript_spec hdl_path offset increment {
+          container_instance_place(BRIX_BLOCK, $1, $2, $3, $4);
+      }
+      block_declaration_continued { container_instance_by_name_end(BRIX_BLOCK); }
+    ;
+
+block_declaration_continued
+    : '{' { begin_inline_container_type(BRIX_BLOCK); }
+      domain_block_properties { inline_container_before_close(BRIX_BLOCK); } '}'
+    | cover_spec { container_instance_by_name(BRIX_BLOCK, $1); }
+    ;
+
+system_declaration
+    : '.' IDENTIFIER rename array_subscript_spec hdl_path offset {
+          container_instance_in_domain(BRIX_SYSTEM, $2, $3, $4, $5, $6);
+      }
+      increment cover_spec { container_instance_tail(BRIX_SYSTEM, $8, $9); }
+    | '=' IDENTIFIER array_subscript_spec hdl_path offset {
+          container_instance_renamed(BRIX_SYSTEM, $2, $3, $4, $5);
+      }
+      increment cover_spec { container_instance_tail(BRIX_SYSTEM, $7, $8); }
+    | array_subscript_spec hdl_path offset increment {
+          container_instance_place(BRIX_SYSTEM, $1, $2, $3, $4);
+      }
+      system_declaration_continued { container_instance_by_name_end(BRIX_SYSTEM); }
+    ;
+
+system_declaration_continued
+    : '{' { begin_inline_container_type(BRIX_SYSTEM); }
+      domain_system_properties { inline_container_before_close(BRIX_SYSTEM); } '}'
+    | cover_spec { container_instance_by_name(BRIX_SYSTEM, $1); }
     ;
 
 %%

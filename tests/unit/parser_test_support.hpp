@@ -78,6 +78,25 @@ inline std::string at(const std::string& message, const char* file, int line) {
     return message + " (BRIX File: " + file + " Line: " + std::to_string(line) + ")\n";
 }
 
+// Parses one line of pure text standing at line 7 of t.brix, in a child.
+inline child_result parse_at_line_7(const std::string& description) {
+    return parse_in_child("BRIX_HASHLINE 7 t.brix\n" + description + "\n");
+}
+
+struct error_case {
+    const char* description; // one line of pure text, standing at line 7 of t.brix
+    const char* message;     // what stands before the place
+};
+
+// Runs each case in a child and compares the whole of stderr and the status.
+inline void expect_errors(std::initializer_list<error_case> cases) {
+    for (const error_case& c : cases) {
+        const child_result r = parse_at_line_7(c.description);
+        EXPECT_EQ(r.status, 1) << c.description;
+        EXPECT_EQ(r.err, at(c.message, "t.brix", 7)) << c.description;
+    }
+}
+
 // Restores the option flags that the parser reads.
 struct option_guard {
     int backdoor = brix_gen_backdoor;

@@ -6,21 +6,6 @@ using namespace brix_test;
 
 namespace {
 
-struct error_case {
-    const char* description; // one line of pure text, standing at line 7 of t.brix
-    const char* message;     // what stands before the place
-};
-
-// Runs each case in a child and compares the whole of stderr and the status.
-void expect_errors(std::initializer_list<error_case> cases) {
-    for (const error_case& c : cases) {
-        const child_result r =
-            parse_in_child(std::string("BRIX_HASHLINE 7 t.brix\n") + c.description + "\n");
-        EXPECT_EQ(r.status, 1) << c.description;
-        EXPECT_EQ(r.err, at(c.message, "t.brix", 7)) << c.description;
-    }
-}
-
 TEST(ParserErrors, HdlPathsAndOffsets) {
     expect_errors({
         {"register r { field a (x[%q]) }", "Error: Unsupported hdl_path format."},
