@@ -47,19 +47,24 @@ golden)
         "$root"/tests/golden*/plan_* -path '*/expected/files/*.sv' | sort)
     ;;
 examples)
+    # Each example without coverage and with the coverage models together and one by one.
     bin=$(readlink -f "$3")
     for ex in "$root"/examples/*/; do
         name=$(basename "$ex")
-        cp -r "$ex" "$work/$name"
-        eval "set -- $(cat "$ex/brixgen.args")"
-        if ! (cd "$work/$name" && "$bin" "$@") >"$work/gen.log" 2>&1; then
-            echo "--- $name: generation failed"
-            cat "$work/gen.log"
-            failed=$((failed + 1))
-            continue
-        fi
-        for m in "$work/$name"/*.sv; do
-            lint "$m" "$name/$(basename "$m")"
+        for cover in none baf b a f; do
+            run="$work/$name-$cover"
+            cp -r "$ex" "$run"
+            eval "set -- $(cat "$ex/brixgen.args")"
+            [ $cover = none ] || set -- -c $cover "$@"
+            if ! (cd "$run" && "$bin" "$@") >"$work/gen.log" 2>&1; then
+                echo "--- $name -c $cover: generation failed"
+                cat "$work/gen.log"
+                failed=$((failed + 1))
+                continue
+            fi
+            for m in "$run"/*.sv; do
+                lint "$m" "$name/$(basename "$m") ($cover)"
+            done
         done
     done
     ;;

@@ -108,7 +108,7 @@ class brx_cvr_block_bus;
 			option.weight = 3;
 		}
 
-		small : coverpoint addr {
+		lut : coverpoint addr {
 			bins first_location_accessed = { `QVT_BRX_ADDR_WIDTH'h100 };
 			bins last_location_accessed = { `QVT_BRX_ADDR_WIDTH'h10F };
 			bins other_locations_accessed = { [`QVT_BRX_ADDR_WIDTH'h101:`QVT_BRX_ADDR_WIDTH'h10E] };
@@ -169,7 +169,7 @@ class brx_block_bus extends qvt_brx_block;
 	rand brx_reg_one after;
 	rand brx_reg_one off_map;
 	rand brx_mem_wide big;
-	rand brx_mem_narrow small;
+	rand brx_mem_narrow lut;
 	rand brx_regfile_pair f[2];
 	rand qvt_brx_field w_v;
 	rand qvt_brx_field arr_v[3];
@@ -196,7 +196,7 @@ class brx_block_bus extends qvt_brx_block;
 		this.off_map = new(this, "off_map", `QVT_BRX_ADDR_WIDTH'h1E, "a", cover_on, 2'b11, 1);
 		this.off_map_v = this.off_map.v;
 		this.big = new(this, "big", `QVT_BRX_ADDR_WIDTH'h40, "a", cover_on, 2'b11, 0);
-		this.small = new(this, "small", `QVT_BRX_ADDR_WIDTH'h100, "a", cover_on, 2'b11, 0);
+		this.lut = new(this, "lut", `QVT_BRX_ADDR_WIDTH'h100, "a", cover_on, 2'b11, 0);
 		foreach (this.f[i]) begin
 			int J = i;
 			this.f[J] = new(this, $psprintf("f[%0d]",J), `QVT_BRX_ADDR_WIDTH'h0+J*`QVT_BRX_ADDR_WIDTH'h8, "b", cover_on);
