@@ -201,3 +201,53 @@ TEST_F(plan_test, field_values_alone_has_no_register_plans) {
 }
 
 } // namespace
+
+namespace {
+
+class sample_method_test : public generator_test {
+  protected:
+    std::string generate_field_values(const char* top) {
+        brix_cvr_field_vals = 1;
+        const std::string text = generate(top);
+        brix_cvr_field_vals = 0;
+        return text;
+    }
+};
+
+brix_cvr_spec_tag* field_values_on() {
+    brix_cvr_spec_tag* spec = new_all_unsaid_cvr_spec();
+    spec->field_vals = 1;
+    return spec;
+}
+
+TEST_F(sample_method_test, shared_register_is_sampled_once) {
+    brix_register_type_tag* st = reg_type("st", 4, {field("f", 1)});
+    st->is_shared = 1;
+    brix_block_type_tag* b = block_type("b", {domain("a", 4, nullptr, {reg("s", st, "0x0")}),
+                                              domain("c", 4, nullptr, {reg("s", st, "0x4")})});
+    b->cvr_spec = field_values_on();
+    EXPECT_TRUE(holds(generate_field_values("b"),
+                      "\n\tfunction void sample_field_values();\n"
+                      "\t\tif (this.can_cover(qvt_brx::FIELD_VALS)) begin\n"
+                      "\t\t\tif (s.field_values != null) s.field_values.sample();\n"
+                      "\t\tend\n"
+                      "\tendfunction\n"
+                      "endclass : brx_block_b\n"));
+}
+
+TEST_F(sample_method_test, regfile_registers_by_path) {
+    brix_regfile_type_tag* rft = regfile_type("rft", {reg("x", reg_type("t", 4, {field("f", 6)}))});
+    block_type("on", {domain(nullptr, 4, nullptr, {regfile("rf", rft)})})->cvr_spec =
+        field_values_on();
+    EXPECT_TRUE(holds(generate_field_values("on"),
+                      "\t\t\tif (rf.x.field_values != null) rf.x.field_values.sample();\n"));
+}
+
+TEST_F(sample_method_test, none_without_field_value_coverage) {
+    block_type("off", {domain(nullptr, 4, nullptr, {reg("r", reg_type("u", 4, {field("g", 2)}))})});
+    const std::string text = generate_field_values("off");
+    EXPECT_EQ(std::string::npos, text.find("sample_field_values"));
+    EXPECT_EQ(std::string::npos, text.find("covergroup field_values"));
+}
+
+} // namespace
