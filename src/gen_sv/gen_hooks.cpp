@@ -1,12 +1,5 @@
 #include "gen_sv/gen_hooks.hpp"
 
-void emit_reg_fldval_cvr_n_cross_pnts(const brix_register_type_tag* /*type*/, int /*indent*/,
-                                      const brix_enum_table& /*enums*/) {}
-void emit_reg_bits_cvr_class(const brix_register_type_tag* /*type*/) {}
-void emit_block_cvr_class(const brix_block_type_tag* /*type*/, int /*indent*/) {}
-void emit_block_addrmap_cvr_methods(const brix_block_type_tag* /*type*/, int /*indent*/) {}
-void emit_block_field_value_sample_method(const brix_block_type_tag* /*type*/) {}
-
 void emit_register_backdoor(const brix_register_tag* /*reg*/) {}
 void emit_regfile_backdoor(const brix_regfile_tag* /*regfile*/) {}
 void emit_memory_backdoor(const brix_memory_tag* /*mem*/) {}

@@ -6,7 +6,9 @@
 #include <strings.h>
 
 #include "driver/driver.hpp"
+#include "gen_sv/gen_coverage.hpp"
 #include "gen_sv/gen_hooks.hpp"
+#include "gen_sv/gen_support.hpp"
 #include "semantic/model_copy.hpp"
 #include "semantic/semantic.hpp"
 
@@ -22,6 +24,8 @@ uint32_t brix_largest_memory_bits = 0;
 uint32_t brix_largest_vregister_bytes = 0;
 uint32_t brix_largest_vregister_incr = 0;
 brix_list_tag* brix_hierarchy = nullptr;
+
+using namespace brix_gen;
 
 namespace {
 
@@ -41,37 +45,12 @@ brix_str2int_map* const run_maps[] = {&all_registers,
                                       &all_emitted_shared_registers,
                                       &all_emitted_shared_memories};
 
-bool is_named(const char* text, const char* word) {
-    return text != nullptr && strcmp(text, word) == 0;
-}
-
-// Fields called "unused" or "reserved" exist only as bits.
-bool is_real_field(const brix_field_tag* f) {
-    return !is_named(f->name, "unused") && !is_named(f->name, "reserved");
-}
-
-bool is_read_only(const brix_field_tag* f) {
-    return f->type->access != nullptr && strcasecmp(f->type->access, "ro") == 0;
-}
-
-const char* rand_prefix(const brix_field_tag* f) {
-    return is_read_only(f) ? "" : "rand ";
-}
-
-bool is_array(int32_t array_size) {
-    return array_size >= 2;
-}
-
 std::string upper(const char* text) {
     std::string s = text != nullptr ? text : "";
     for (char& c : s) {
         c = static_cast<char>(toupper(static_cast<unsigned char>(c)));
     }
     return s;
-}
-
-template <class Type> std::string suffix_of(const Type* t) {
-    return brix_class_suffix(t->scope_prefix, t->name);
 }
 
 bool in_map(const brix_str2int_map& map, const std::string& key) {
@@ -88,24 +67,6 @@ void count_name(brix_str2int_map& names, const char* name) {
 
 bool counted_once(const brix_str2int_map& names, const char* name) {
     return get_str2int_map_value(names, name) == 1;
-}
-
-void raise(uint32_t& tracker, uint64_t value) {
-    tracker = static_cast<uint32_t>(std::max<uint64_t>(tracker, value));
-}
-
-template <class F> void for_each_field(const brix_list_tag* fields, F f) {
-    for (const brix_list_tag* n = fields; n != nullptr; n = n->next) {
-        f(static_cast<const brix_field_tag*>(n->data));
-    }
-}
-
-template <class F> void for_each_real_field(const brix_list_tag* fields, F f) {
-    for_each_field(fields, [&](const brix_field_tag* field) {
-        if (is_real_field(field)) {
-            f(field);
-        }
-    });
 }
 
 // The whole-word test of constraint bodies: a word stands alone when the characters on
@@ -336,10 +297,6 @@ uint64_t register_words(const brix_register_type_tag* t, uint64_t domain_bytes) 
     return get_ceil(static_cast<uint64_t>(t->bytes), domain_bytes);
 }
 
-uint64_t increment_or(const char* increment, uint64_t fallback) {
-    return increment != nullptr ? to_dec(increment) : fallback;
-}
-
 void check_no_shared_array(const brix_register_tag* r) {
     if (is_array(r->array_size) && r->type->is_shared == 1) {
         brix_error("Error: Register '%s' - Array of shared register is not allowed.",
@@ -469,20 +426,6 @@ const char* endian_word(const char* endian) {
 // The key of a domain's size: the class suffix, and the domain's name when it has one.
 std::string size_key(const std::string& suffix, const char* domain) {
     return domain != nullptr ? suffix + " " + domain : suffix;
-}
-
-template <class Domain, class F> void for_each_domain(const brix_list_tag* domains, F f) {
-    for (const brix_list_tag* n = domains; n != nullptr; n = n->next) {
-        f(static_cast<Domain*>(n->data));
-    }
-}
-
-template <class Domain, class F> void for_each_component(const brix_list_tag* domains, F f) {
-    for_each_domain<Domain>(domains, [&](Domain* d) {
-        for (const brix_list_tag* c = d->components; c != nullptr; c = c->next) {
-            f(d, c);
-        }
-    });
 }
 
 // Head of a block's or system's constructor: the first domain goes to `super.new`, the

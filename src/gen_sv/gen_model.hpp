@@ -11,6 +11,8 @@
 #include "driver/maps.hpp"
 #include "parser/model.hpp"
 
+struct brix_cvr_templates;
+
 // Every text that the walk writes, as a brix_emit format, for one target language.
 // The comment of each member names its arguments in order.
 struct brix_gen_templates {
@@ -132,6 +134,9 @@ struct brix_gen_templates {
     const char* register_subsys;
     const char* register_subsys_array;
     const char* sys_class_tail; // suffix
+
+    // The texts of the three coverage models.
+    const brix_cvr_templates* cvr;
 };
 
 // The table of the language now being written.

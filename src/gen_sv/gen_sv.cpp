@@ -1,11 +1,141 @@
 #include "gen_sv/gen_sv.hpp"
 
+#include "gen_sv/gen_coverage.hpp"
 #include "gen_sv/gen_model.hpp"
 
 namespace {
 
 // Where the generated model sends a user who hits an internal model error.
 #define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
+
+const brix_cvr_templates sv_cvr_templates = {
+    /*fv_point_head*/ "%s_value : coverpoint %s.value",
+    /*fv_body_open*/ " {\n",
+    /*fv_small_open*/ "[%d:0] {\n",
+    /*fv_enum_bin*/ "bins %s = { %d };\n",
+    /*fv_min*/ "bins min = { %d'h0 };\n",
+    /*fv_max*/ "bins max = { %d'h%llX };\n",
+    /*fv_others*/ "bins others = { [%d'h1:%d'h%llX] };\n",
+    /*weight*/ "option.weight = %d;\n",
+    /*point_close*/ "}\n",
+    /*cross_label*/ "%s : ",
+    /*cross_head*/ "cross ",
+    /*cross_item_sep*/ ", ",
+    /*cross_field_suffix*/ "_value",
+    /*cross_open*/ " {\n",
+
+    /*bin_head*/ "bins %s",
+    /*bin_auto*/ "[]",
+    /*bin_count*/ "[%d]",
+    /*bin_assign*/ " = ",
+    /*bin_default*/ "default;\n",
+    /*bin_values_open*/ "{ ",
+    /*bin_value_sep*/ ", ",
+    /*bin_values_close*/ " };\n",
+    /*bin_range_open*/ "[",
+    /*bin_range_sep*/ ":",
+    /*bin_range_close*/ "]",
+    /*bin_enum_class*/ "%s::",
+
+    /*rb_class_head*/
+    "class brx_cvr_reg_%s;\n"
+    "\tlocal bit [`QVT_BRX_DATA_WIDTH-1:0] data;\n"
+    "\tlocal bit                           is_read;\n"
+    "\tcovergroup reg_bits (input string name);\n"
+    "\t   option.name = name;\n"
+    "\t   option.per_instance = 1;\n",
+    /*rb_point_head*/ "\t   %s: coverpoint {data[%d:%d], is_read} {\n",
+    /*rb_wr_as_0*/ "\t      wildcard bins bit_%d_wr_as_0 = {%d'b",
+    /*rb_wr_as_1*/ "\t      wildcard bins bit_%d_wr_as_1 = {%d'b",
+    /*rb_rd*/ "\t      wildcard bins bit_%d_rd = {%d'b",
+    /*rb_rd_as_0*/ "\t      wildcard bins bit_%d_rd_as_0 = {%d'b",
+    /*rb_rd_as_1*/ "\t      wildcard bins bit_%d_rd_as_1 = {%d'b",
+    /*rb_any_bit*/ '?',
+    /*rb_write_end*/ "0};\n",
+    /*rb_read_end*/ "1};\n",
+    /*rb_weight*/ "\t      option.weight = %d;\n",
+    /*rb_point_tail*/ "\t   }\n",
+    /*rb_class_tail*/
+    "\tendgroup\n"
+    "\n"
+    "\tfunction new(string name, string domain);\n"
+    "\t   if (domain == \"\") this.reg_bits = new(name);\n"
+    "\t   else this.reg_bits = new($psprintf(\"%%s(%%s)\", name, domain));\n"
+    "\tendfunction\n"
+    "\n"
+    "\tfunction void sample(bit [`QVT_BRX_DATA_WIDTH-1:0] data,\n"
+    "\t                     bit                           is_read);\n"
+    "\t   this.data = data;\n"
+    "\t   this.is_read = is_read;\n"
+    "\t   this.reg_bits.sample();\n"
+    "\tendfunction\n"
+    "endclass\n"
+    "\n",
+
+    /*am_class_head*/ "class brx_cvr_block_%s;\n",
+    /*am_addr_member*/ "local bit [`QVT_BRX_ADDR_WIDTH-1:0] addr;\n",
+    /*am_group_head*/ "covergroup addr_map (input string name);\n",
+    /*am_named_group_head*/ "covergroup %s_addr_map (input string name);\n",
+    /*am_group_options*/ {"option.name = name;\n", "option.per_instance = 1;\n"},
+    /*am_group_tail*/ "endgroup\n",
+    /*am_new_head*/ "function new (string name",
+    /*am_domain_param*/ ", string domain",
+    /*am_params_close*/ ");\n",
+    /*am_new_single*/ "this.addr_map = new($psprintf(\"%%s\", name));\n",
+    /*am_if_domain*/ "if (domain == \"%s\") begin\n",
+    /*am_else*/ "else ",
+    /*am_end*/ "end\n",
+    /*am_new_domain*/ "this.%s_addr_map = new($psprintf(\"%%s(%s)\", name));\n",
+    /*am_function_tail*/ "endfunction\n",
+    /*am_sample_head*/ "function void sample(bit [`QVT_BRX_ADDR_WIDTH-1:0] addr",
+    /*am_sample_store*/ "this.addr = addr;\n",
+    /*am_sample_single*/ "this.addr_map.sample();\n",
+    /*am_sample_domain*/ "this.%s_addr_map.sample();\n",
+    /*am_class_tail*/ "endclass : brx_cvr_block_%s\n",
+    /*am_point_head*/ "%s : coverpoint addr {\n",
+    /*am_accessed*/ "bins accessed = { `QVT_BRX_ADDR_WIDTH'h%llX };\n",
+    /*am_accessed_range*/
+    "bins accessed = { [`QVT_BRX_ADDR_WIDTH'h%llX:`QVT_BRX_ADDR_WIDTH'h%llX] };\n",
+    /*am_first_location*/ "bins first_location_accessed = { `QVT_BRX_ADDR_WIDTH'h%llX };\n",
+    /*am_first_location_range*/
+    "bins first_location_accessed = { [`QVT_BRX_ADDR_WIDTH'h%llX:`QVT_BRX_ADDR_WIDTH'h%llX] "
+    "};\n",
+    /*am_last_location*/ "bins last_location_accessed = { `QVT_BRX_ADDR_WIDTH'h%llX };\n",
+    /*am_last_location_range*/
+    "bins last_location_accessed = { [`QVT_BRX_ADDR_WIDTH'h%llX:`QVT_BRX_ADDR_WIDTH'h%llX] "
+    "};\n",
+    /*am_other_locations*/
+    "bins other_locations_accessed = { [`QVT_BRX_ADDR_WIDTH'h%llX:`QVT_BRX_ADDR_WIDTH'h%llX] "
+    "};\n",
+
+    /*dc_head*/ "virtual function void domain_coverage(string domain, int idx);\n",
+    /*dc_can_cover*/ "if (this.can_cover(qvt_brx::ADDR_MAP)) begin\n",
+    /*dc_decl*/ "brx_cvr_block_%s cg;\n",
+    /*dc_new_single*/ "cg = new(this.get_fullname());\n",
+    /*dc_new_domain*/ "cg = new(this.get_fullname(), \"%s\");\n",
+    /*dc_else_begin*/ "else begin\n",
+    /*dc_bad_domain*/
+    "$write(\"Internal BRX model error: Invalid domain '%%s' found for Block '%%s'.\\n\", "
+    "domain, this.get_fullname());\n",
+    /*support_line*/ "$write(\"Please contact " BRIX_SUPPORT_ADDRESS ".\\n\");\n",
+    /*finish*/ "$finish();\n",
+    /*dc_store*/ "this.__addr_map[idx] = cg;\n",
+    /*sm_head*/
+    "protected virtual function void sample(bit [`QVT_BRX_ADDR_WIDTH-1:0] addr, int domain);\n",
+    /*sm_is_cover_on*/ "if (!this.is_cover_on(qvt_brx::ADDR_MAP)) return;\n",
+    /*sm_exists*/ "if (!this.__addr_map.exists(domain)) begin\n",
+    /*sm_bad_domain*/
+    "$write(\"Internal BRX model error: Invalid domain found for Block %%s.\\n\", "
+    "this.get_fullname());\n",
+    /*sm_call*/ "this.__addr_map[domain].sample(addr",
+    /*sm_call_domain*/ ", this.domains[domain]",
+    /*sm_call_close*/ ");\n",
+
+    /*sfv_head*/
+    "\tfunction void sample_field_values();\n\t\tif (this.can_cover(qvt_brx::FIELD_VALS)) begin\n",
+    /*sfv_line*/ "\t\t\tif (%s.field_values != null) %s.field_values.sample();\n",
+    /*sfv_tail*/ "\t\tend\n\tendfunction\n",
+};
 
 const brix_gen_templates sv_templates = {
     /*file_suffix*/ ".sv",
@@ -180,6 +310,8 @@ const brix_gen_templates sv_templates = {
     "\t\t\tthis.register_subsys(this.%s[J], \"%s\", \"%s\", "
     "`QVT_BRX_ADDR_WIDTH'h%llX+J*`QVT_BRX_ADDR_WIDTH'h%llX);\n",
     /*sys_class_tail*/ "endclass : brx_sys_%s\n",
+
+    /*cvr*/ &sv_cvr_templates,
 };
 
 } // namespace

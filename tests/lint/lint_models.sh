@@ -5,7 +5,9 @@
 #   lint_models.sh golden <source root>             the expected models of the golden cases
 #   lint_models.sh examples <source root> <brixgen> models generated from examples/
 #
-# The only change made to a model is $psprintf, which the front end lacks, to $sformatf.
+# Two changes are made to a model, for what the front end lacks: $psprintf becomes
+# $sformatf, and each covergroup becomes a member of the stand-in's covergroup class, so
+# that the coverage classes and methods around the groups are still checked.
 # WIDTH is off: models pass sized constants narrower than the library's wide arguments.
 set -u
 mode=$1
@@ -17,7 +19,10 @@ trap 'rm -rf "$work"' EXIT
 failed=0
 count=0
 lint() { # model file, label
-    sed 's/\$psprintf/$sformatf/g' "$1" >"$work/model.sv"
+    sed 's/\$psprintf/$sformatf/g' "$1" | awk '
+        /^[ \t]*covergroup[ \t]/ { name = $2; sub(/\(.*/, "", name); print "qvt_brx_covergroup " name ";"; skip = 1; next }
+        skip && /^[ \t]*endgroup/ { skip = 0; next }
+        !skip' >"$work/model.sv"
     count=$((count + 1))
     if ! (cd "$work" && verilator --lint-only -Wno-WIDTH +define+QVT_BRX_DATA_WIDTH=256 \
         -I"$here" model.sv) >"$work/log" 2>&1; then
@@ -38,22 +43,28 @@ golden)
             continue
         fi
         lint "$f" "$rel"
-    done < <(find "$root"/tests/golden*/gen_sv_* -path '*/expected/files/*.sv' | sort)
+    done < <(find "$root"/tests/golden*/gen_sv_* "$root"/tests/golden*/cov_* \
+        "$root"/tests/golden*/plan_* -path '*/expected/files/*.sv' | sort)
     ;;
 examples)
+    # Each example without coverage and with the coverage models together and one by one.
     bin=$(readlink -f "$3")
     for ex in "$root"/examples/*/; do
         name=$(basename "$ex")
-        cp -r "$ex" "$work/$name"
-        eval "set -- $(cat "$ex/brixgen.args")"
-        if ! (cd "$work/$name" && "$bin" "$@") >"$work/gen.log" 2>&1; then
-            echo "--- $name: generation failed"
-            cat "$work/gen.log"
-            failed=$((failed + 1))
-            continue
-        fi
-        for m in "$work/$name"/*.sv; do
-            lint "$m" "$name/$(basename "$m")"
+        for cover in none baf b a f; do
+            run="$work/$name-$cover"
+            cp -r "$ex" "$run"
+            eval "set -- $(cat "$ex/brixgen.args")"
+            [ $cover = none ] || set -- -c $cover "$@"
+            if ! (cd "$run" && "$bin" "$@") >"$work/gen.log" 2>&1; then
+                echo "--- $name -c $cover: generation failed"
+                cat "$work/gen.log"
+                failed=$((failed + 1))
+                continue
+            fi
+            for m in "$run"/*.sv; do
+                lint "$m" "$name/$(basename "$m") ($cover)"
+            done
         done
     done
     ;;

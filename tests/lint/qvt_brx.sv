@@ -45,6 +45,16 @@ package qvt_brx;
 endpackage
 
 typedef class qvt_brx_block;
+
+// What the lint puts in place of a covergroup, which the front end cannot read: a handle
+// that is built with a name and sampled.
+class qvt_brx_covergroup;
+    function new(string name = "");
+    endfunction
+    function void sample();
+    endfunction
+endclass
+
 typedef class qvt_brx_sys;
 
 // What every node of a model can do.
@@ -114,7 +124,8 @@ class qvt_brx_vfield;
 endclass
 
 class qvt_brx_block extends qvt_brx_node;
-    int domains[int];
+    // The name of each domain, by its index.
+    string domains[int];
     function new(qvt_brx_sys parent, string name, string type_name, int bytes, int endian,
                  integer base_addr, string domain, int cover_on, int coverage);
         m_name = name;

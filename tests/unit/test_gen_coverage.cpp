@@ -1,0 +1,253 @@
+// Coverage models and the plan file over hand-built models: bin counting, and the plans of
+// systems, named domains and regfiles.
+#include "gen_sv_builder.hpp"
+
+#include "gen_plan/gen_plan.hpp"
+#include "gen_sv/gen_coverage.hpp"
+
+using namespace brix_build;
+
+namespace {
+
+brix_cvr_bin_value* number(const char* text) {
+    auto* v = brix_new_record<brix_cvr_bin_value>();
+    v->kind = 2;
+    v->value = s(text);
+    return v;
+}
+
+brix_cvr_bin_value* enum_name(const char* text) {
+    auto* v = brix_new_record<brix_cvr_bin_value>();
+    v->kind = 1;
+    v->value = s(text);
+    return v;
+}
+
+brix_cvr_bin_value* range(brix_cvr_bin_value* low, brix_cvr_bin_value* high) {
+    auto* r = brix_new_record<brix_cvr_bin_range>();
+    r->low = low;
+    r->high = high;
+    auto* v = brix_new_record<brix_cvr_bin_value>();
+    v->kind = 3;
+    v->value = r;
+    return v;
+}
+
+brix_cvr_bin* auto_bin(std::initializer_list<brix_cvr_bin_value*> values) {
+    auto* b = record(initialize_cvr_bin);
+    b->name = s("b");
+    b->auto_bins = 1;
+    b->values = list_of(BRIX_CVR_BIN_VALUE, values);
+    return b;
+}
+
+TEST(calc_bin_weight, counts_distinct_values_once) {
+    const brix_enum_values none;
+    EXPECT_EQ(4, calc_bin_weight(
+                     auto_bin({number("1"), range(number("3"), number("5")), number("4")}), none));
+    // Overlapping and touching ranges merge; a backwards range adds nothing.
+    EXPECT_EQ(11, calc_bin_weight(
+                      auto_bin({range(number("0"), number("5")), range(number("3"), number("10")),
+                                range(number("9"), number("2"))}),
+                      none));
+    // Another base reads up to its first non-digit.
+    EXPECT_EQ(1, calc_bin_weight(auto_bin({number("'h10"), number("0")}), none));
+}
+
+TEST(calc_bin_weight, reads_enum_names_and_wide_ranges) {
+    const brix_enum_values states{{"idle", 0}, {"busy", 3}};
+    EXPECT_EQ(4, calc_bin_weight(auto_bin({range(enum_name("idle"), enum_name("busy"))}), states));
+    EXPECT_EQ(1000000001LL,
+              calc_bin_weight(auto_bin({range(number("0"), number("1000000000"))}), states));
+}
+
+TEST(calc_bin_weight, refuses_unknown_names_and_empty_bins) {
+    const brix_enum_values none;
+    brix_cvr_bin* unknown = auto_bin({enum_name("gone")});
+    EXPECT_EQ("calc_bin_weight(...) - Undefined enumeration const 'gone' used.\n\n",
+              brix_test::run_in_child([&] { calc_bin_weight(unknown, none); }).err);
+    brix_cvr_bin* empty = auto_bin({});
+    EXPECT_EQ("calc_bin_weight(...) - Invalid Cover BIN found.\n\n",
+              brix_test::run_in_child([&] { calc_bin_weight(empty, none); }).err);
+}
+
+// Runs the model and the plan for `top` with the models of `letters` asked for, and
+// returns the plan's text.
+class plan_test : public generator_test {
+  protected:
+    std::string plan(const char* top, const char* letters) {
+        const std::string l = letters;
+        brix_cvr_addr_map = l.find('a') != std::string::npos ? 1 : 0;
+        brix_cvr_reg_bits = l.find('b') != std::string::npos ? 1 : 0;
+        brix_cvr_field_vals = l.find('f') != std::string::npos ? 1 : 0;
+        generate(top);
+        char here[4096];
+        EXPECT_NE(nullptr, getcwd(here, sizeof here));
+        EXPECT_EQ(0, chdir(dir_.c_str()));
+        emit_kpl_qvtp_model(top);
+        EXPECT_EQ(0, chdir(here));
+        brix_cvr_addr_map = brix_cvr_reg_bits = brix_cvr_field_vals = 0;
+        std::ifstream in(dir_ + "/qvtp_" + top + ".kpl");
+        std::stringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+};
+
+const char* const reg_r_t_plan =
+    "plan reg_r_t;\n"
+    "    attribute string path = \"\";\n\n"
+    "    feature f0_bits;\n"
+    "        measure Group fcov;\n"
+    "            source = \"group instance: brx_cvr_reg_r_t::reg_bits.${path}.f0\";\n"
+    "        endmeasure\n"
+    "    endfeature\n"
+    "endplan\n\n\n";
+
+brix_register_type_tag* r_t() {
+    return reg_type("r_t", 4, {field("f0", 1), field("unused", 7)});
+}
+
+TEST_F(plan_test, block_below_a_system_takes_the_path) {
+    brix_block_type_tag* b = block_type("b", {domain(nullptr, 4, nullptr, {reg("r", r_t())})});
+    system_type("s", {sys_domain("d0", 4, {block("u_b", b, "0x0", 2, "0x100")}),
+                      sys_domain("d1", 4, {block("u_b", b, "0x0")})});
+    EXPECT_EQ(std::string(reg_r_t_plan) +
+                  "plan block_b;\n"
+                  "    attribute string path = \"\";\n\n"
+                  "    feature reg_r;\n"
+                  "        subplan reg_r_t #(path=\"${path}.r\");\n"
+                  "    endfeature\n"
+                  "\n"
+                  "    feature address_map;\n"
+                  "        measure Group fcov;\n"
+                  "            source = \"group instance: brx_block_b::addr_map.${path}\";\n"
+                  "        endmeasure\n"
+                  "    endfeature\n"
+                  "endplan\n\n\n"
+                  "plan sys_s;\n"
+                  "    attribute string path = \"\";\n\n"
+                  "    feature block_u_b0;\n"
+                  "        subplan block_b #(path=\"u_b[0]\");\n"
+                  "    endfeature\n"
+                  "    feature block_u_b1;\n"
+                  "        subplan block_b #(path=\"u_b[1]\");\n"
+                  "    endfeature\n"
+                  "endplan\n\n\n",
+              plan("s", "ab"));
+}
+
+TEST_F(plan_test, named_domain_wraps_its_features) {
+    block_type("b", {domain("d", 4, nullptr, {reg("r", r_t())})});
+    EXPECT_EQ(std::string(reg_r_t_plan) + "plan block_b;\n"
+                                          "    attribute string path = \"\";\n\n"
+                                          "    feature d;\n"
+                                          "        feature reg_r;\n"
+                                          "            subplan reg_r_t #(path=\"r(d)\");\n"
+                                          "        endfeature\n"
+                                          "    endfeature\n"
+                                          "endplan\n\n\n",
+              plan("b", "b"));
+}
+
+TEST_F(plan_test, regfiles_and_arrays_one_plan_a_type) {
+    brix_register_type_tag* x = reg_type("xt", 4, {field("reserved", 32)});
+    brix_regfile_type_tag* rft = regfile_type("rft", {reg("x", x), reg("y", x, nullptr, 2)});
+    block_type("top", {domain(nullptr, 4, nullptr,
+                              {regfile("rf", rft), reg("r", x, nullptr, 2),
+                               mem("m", mem_type("m", 4, 32))})});
+    EXPECT_EQ("plan reg_xt;\n"
+              "    attribute string path = \"\";\n\n"
+              "endplan\n\n\n"
+              "plan regfile_rft;\n"
+              "    attribute string path = \"\";\n\n"
+              "    feature reg_x;\n"
+              "        subplan reg_xt #(path=\"${path}.x\");\n"
+              "    endfeature\n"
+              "    feature reg_y0;\n"
+              "        subplan reg_xt #(path=\"${path}.y[0]\");\n"
+              "    endfeature\n"
+              "    feature reg_y1;\n"
+              "        subplan reg_xt #(path=\"${path}.y[1]\");\n"
+              "    endfeature\n"
+              "endplan\n\n\n"
+              "plan block_top;\n"
+              "    attribute string path = \"\";\n\n"
+              "    feature regfile_rf;\n"
+              "        subplan regfile_rft #(path=\"rf\");\n"
+              "    endfeature\n"
+              "    feature reg_r0;\n"
+              "        subplan reg_xt #(path=\"r[0]\");\n"
+              "    endfeature\n"
+              "    feature reg_r1;\n"
+              "        subplan reg_xt #(path=\"r[1]\");\n"
+              "    endfeature\n"
+              "endplan\n\n\n",
+              plan("top", "b"));
+}
+
+TEST_F(plan_test, field_values_alone_has_no_register_plans) {
+    block_type("b", {domain(nullptr, 4, nullptr, {reg("r", r_t())})});
+    EXPECT_EQ("plan block_b;\n"
+              "    attribute string path = \"\";\n\n"
+              "\n"
+              "    feature field_values;\n"
+              "        measure Group fcov;\n"
+              "            source = \"group instance: brx_block_b::field_values\";\n"
+              "        endmeasure\n"
+              "    endfeature\n"
+              "endplan\n\n\n",
+              plan("b", "f"));
+}
+
+} // namespace
+
+namespace {
+
+class sample_method_test : public generator_test {
+  protected:
+    std::string generate_field_values(const char* top) {
+        brix_cvr_field_vals = 1;
+        const std::string text = generate(top);
+        brix_cvr_field_vals = 0;
+        return text;
+    }
+};
+
+brix_cvr_spec_tag* field_values_on() {
+    brix_cvr_spec_tag* spec = new_all_unsaid_cvr_spec();
+    spec->field_vals = 1;
+    return spec;
+}
+
+TEST_F(sample_method_test, shared_register_is_sampled_once) {
+    brix_register_type_tag* st = reg_type("st", 4, {field("f", 1)});
+    st->is_shared = 1;
+    brix_block_type_tag* b = block_type("b", {domain("a", 4, nullptr, {reg("s", st, "0x0")}),
+                                              domain("c", 4, nullptr, {reg("s", st, "0x4")})});
+    b->cvr_spec = field_values_on();
+    EXPECT_TRUE(holds(generate_field_values("b"),
+                      "\n\tfunction void sample_field_values();\n"
+                      "\t\tif (this.can_cover(qvt_brx::FIELD_VALS)) begin\n"
+                      "\t\t\tif (s.field_values != null) s.field_values.sample();\n"
+                      "\t\tend\n"
+                      "\tendfunction\n"
+                      "endclass : brx_block_b\n"));
+}
+
+TEST_F(sample_method_test, regfile_registers_by_path) {
+    brix_regfile_type_tag* rft = regfile_type("rft", {reg("x", reg_type("t", 4, {field("f", 6)}))});
+    block_type("on", {domain(nullptr, 4, nullptr, {regfile("rf", rft)})})->cvr_spec =
+        field_values_on();
+    EXPECT_TRUE(holds(generate_field_values("on"),
+                      "\t\t\tif (rf.x.field_values != null) rf.x.field_values.sample();\n"));
+}
+
+TEST_F(sample_method_test, none_without_field_value_coverage) {
+    block_type("off", {domain(nullptr, 4, nullptr, {reg("r", reg_type("u", 4, {field("g", 2)}))})});
+    const std::string text = generate_field_values("off");
+    EXPECT_EQ(std::string::npos, text.find("sample_field_values"));
+    EXPECT_EQ(std::string::npos, text.find("covergroup field_values"));
+}
+
+} // namespace
