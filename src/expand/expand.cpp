@@ -160,12 +160,16 @@ void brix_flush_tcl_stdout() {
     }
 }
 
-void brix_print_result(const char* text) {
-    // The flush replaces the interpreter's result, which may be the text itself.
-    const std::string copy = text;
+void brix_print_result() {
+    // The flush replaces the interpreter's result, which must stand afterwards as the
+    // result of what was evaluated: `set v [source f]` takes the last result of f.
+    Tcl_Obj* result = Tcl_GetObjResult(brixgen_interp);
+    Tcl_IncrRefCount(result);
     brix_flush_tcl_stdout();
-    fputs(copy.c_str(), stdout);
+    fputs(Tcl_GetString(result), stdout);
     fflush(stdout);
+    Tcl_SetObjResult(brixgen_interp, result);
+    Tcl_DecrRefCount(result);
 }
 
 int brix_check_result(int status) {
@@ -174,7 +178,7 @@ int brix_check_result(int status) {
         return TCL_OK;
     }
     if (status == TCL_OK) {
-        brix_print_result(result);
+        brix_print_result();
     } else if (status == TCL_ERROR) {
         brix_fold_error_line(Tcl_GetErrorLine(brixgen_interp));
         return TCL_ERROR;
@@ -203,7 +207,7 @@ int execute_brix_file(const char* path) {
     }
     if (status != TCL_ERROR) {
         if (status == TCL_OK) {
-            brix_print_result(result);
+            brix_print_result();
         }
         return TCL_OK;
     }

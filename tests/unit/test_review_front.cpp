@@ -97,6 +97,18 @@ TEST(ReviewFrontRun, CaughtErrorLeavesLineSumAndLevelRaised) {
                        "(file \"top.brix\" line 11)\n");
 }
 
+// A printed result stays the result: `source` hands on its file's last result, which is
+// printed once for the file and once more where `source` is the last command.
+TEST(ReviewFrontRun, SourceKeepsTheResultOfItsFile) {
+    scratch_dir dir;
+    dir.write("inc.brix", "bytes 1\nset q 3\n");
+    dir.write("top.brix", "set v [source inc.brix]\nbytes $v\nsource inc.brix\n");
+    const expansion run = expand_test::expand_in(dir, "top.brix");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.pure, hash(1, "inc.brix") + "bytes 1 \n3" + hash(2) + "bytes 3 \n" +
+                            hash(1, "inc.brix") + "bytes 1 \n33");
+}
+
 TEST(ReviewFrontMaps, FreeModesLeaveWhatTheyDoNotOwn) {
     char key_a[] = "a";
     char key_b[] = "b";
