@@ -205,4 +205,23 @@ TEST_F(review_gen_test, plan_of_nested_systems_with_bit_coverage_only) {
               plan("s"));
 }
 
+TEST_F(review_gen_test, one_array_name_in_two_domains_stops_at_its_second_key) {
+    brix_block_type_tag* b = block_type(
+        "b", {domain(nullptr, 4, nullptr, {reg("r", reg_type("t", 4, {field("f", 8)}))})});
+    system_type("s", {sys_domain("d0", 4, {block("u", b, nullptr, 2)}),
+                      sys_domain("d1", 4, {block("u", b, nullptr, 2)})});
+    const brix_test::child_result run = generate_in_child("s");
+    EXPECT_EQ(1, run.status);
+    EXPECT_EQ("Error: add_str2str_map_entry - Attempted to add key 'brx_block_b u' 2nd time on a "
+              "unique key map.\n",
+              run.err);
+    // The file stays as far as it was written: the second loop is open.
+    std::ifstream in(out_base_ + ".sv");
+    std::stringstream text;
+    text << in.rdbuf();
+    const std::string tail = "\t\tend\n\t\tforeach (this.u[i]) begin\n\t\t\tint J = i;\n";
+    ASSERT_GE(text.str().size(), tail.size());
+    EXPECT_EQ(tail, text.str().substr(text.str().size() - tail.size()));
+}
+
 } // namespace
