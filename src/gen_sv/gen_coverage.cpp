@@ -41,6 +41,17 @@ unsigned long long all_ones_less(uint32_t w, unsigned long long k) {
     return static_cast<unsigned long long>(brix_pow(2, static_cast<int32_t>(w))) - k;
 }
 
+// Bin counts of wide ranges, their sums and the products of crosses wrap at the end of
+// the range instead of overflowing.
+long long wrapping_add(long long a, long long b) {
+    return static_cast<long long>(static_cast<unsigned long long>(a) +
+                                  static_cast<unsigned long long>(b));
+}
+long long wrapping_mul(long long a, long long b) {
+    return static_cast<long long>(static_cast<unsigned long long>(a) *
+                                  static_cast<unsigned long long>(b));
+}
+
 // ---- Field values -------------------------------------------------------------------
 
 // Bins of an enum field, one an enum name, and their number.
@@ -56,7 +67,7 @@ long long emit_field_enum_bins(const brix_enum_type* e, int indent) {
     long long count = 0;
     for (const brix_list_tag* n = e->names; n != nullptr; n = n->next) {
         const auto* decl = static_cast<const brix_enum_name_declaration*>(n->data);
-        v = decl->value != nullptr ? strtol(decl->value, nullptr, 10) : v + 1;
+        v = next_enum_value(decl->value, v);
         at(indent, C().fv_enum_bin, decl->name, v);
         ++count;
     }
@@ -219,12 +230,12 @@ long long emit_coverpoint_bins(const brix_cvr_pnt* pnt, int indent,
         at(indent, C().bin_head, b->name);
         if (b->auto_bins) {
             brix_emit(C().bin_auto);
-            total += calc_bin_weight(b, enum_values);
+            total = wrapping_add(total, calc_bin_weight(b, enum_values));
         } else if (b->num_bins > 0) {
             brix_emit(C().bin_count, b->num_bins);
-            total += b->num_bins;
+            total = wrapping_add(total, b->num_bins);
         } else {
-            total += 1;
+            total = wrapping_add(total, 1);
         }
         brix_emit(C().bin_assign);
         if (b->values == nullptr) {
@@ -301,7 +312,7 @@ void emit_reg_fldval_cvr_n_cross_pnts(const brix_register_type_tag* t, int inden
             if (fields_seen.count(item) != 0) {
                 brix_emit(C().cross_field_suffix);
             }
-            p *= weights[item];
+            p = wrapping_mul(p, weights[item]);
         }
         brix_emit(C().cross_open);
         at(indent + 1, C().weight, p);

@@ -220,10 +220,8 @@ void emit_register_enum_classes(const brix_register_type_tag* t, brix_enum_table
             brix_emit(L().enum_name, decl->name);
             if (decl->value != nullptr) {
                 brix_emit(L().enum_value, decl->value);
-                v = strtol(decl->value, nullptr, 10);
-            } else {
-                v += 1;
             }
+            v = next_enum_value(decl->value, v);
             values[decl->name] = v;
         }
         brix_emit(L().enum_class_tail, f->name, suffix, f->name);

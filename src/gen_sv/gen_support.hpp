@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <strings.h>
@@ -44,6 +45,15 @@ template <class Type> std::string suffix_of(const Type* t) {
 
 inline void raise(uint32_t& tracker, uint64_t value) {
     tracker = static_cast<uint32_t>(std::max<uint64_t>(tracker, value));
+}
+
+// The value of the next name of an enum: its written value read as a decimal number, else
+// one more than the previous, wrapping at the end of the range instead of overflowing.
+inline long long next_enum_value(const char* written, long long previous) {
+    if (written != nullptr) {
+        return strtol(written, nullptr, 10);
+    }
+    return static_cast<long long>(static_cast<unsigned long long>(previous) + 1);
 }
 
 inline uint64_t increment_or(const char* increment, uint64_t fallback) {
