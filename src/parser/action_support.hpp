@@ -60,18 +60,19 @@ inline void set_cvr_used_if_null(brix_cvr_spec_tag*& used) {
 }
 
 // The bytes check: the smallest whole number of bytes that holds the fields, offsets
-// counted; a type without `bytes` takes that number.
+// counted; a type without `bytes` takes that number. The sums wrap rather than overflow,
+// so that absurd widths and offsets give a wrong answer, never undefined behaviour.
 template <class Type> bool valid_bytes(Type* type) {
     int32_t used = 0;
     for (const brix_list_tag* n = type->fields; n != nullptr; n = n->next) {
         const auto* field = static_cast<const brix_field_tag*>(n->data);
         if (field->offset != nullptr) {
-            const int64_t end = static_cast<int64_t>(to_dec(field->offset)) + field->type->bits;
+            const auto end = static_cast<int64_t>(to_dec(field->offset) + field->type->bits);
             if (end > used) {
                 used = static_cast<int32_t>(end);
             }
         } else {
-            used += static_cast<int32_t>(field->type->bits);
+            used = static_cast<int32_t>(static_cast<uint32_t>(used) + field->type->bits);
         }
     }
     const int32_t needed = used / 8 + (used % 8 != 0 ? 1 : 0);

@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <string>
+#include <unordered_map>
 
 #include "driver/driver.hpp"
 #include "parser/action_support.hpp"
@@ -14,22 +15,22 @@ bool is_unused_or_reserved(const char* name) {
     return std::strcmp(name, "unused") == 0 || std::strcmp(name, "reserved") == 0;
 }
 
-// Appends to a list of records linked through `next`. The tail of the list last appended
-// to is remembered, so that building one long list stays linear.
+// Appends to a list of records linked through `next`. The tail of each list is
+// remembered under its first record, so that building long lists stays linear however
+// the appends to different lists interleave.
 template <class T> void append_linked(T*& head, T* item) {
-    static T** last_head = nullptr;
-    static T* last_tail = nullptr;
+    static std::unordered_map<const T*, T*> tails;
     if (head == nullptr) {
         head = item;
     } else {
-        T* tail = &head == last_head ? last_tail : head;
+        const auto hint = tails.find(head);
+        T* tail = hint == tails.end() ? head : hint->second;
         while (tail->next != nullptr) {
             tail = tail->next;
         }
         tail->next = item;
     }
-    last_head = &head;
-    last_tail = item;
+    tails[head] = item;
 }
 
 char* concat(std::initializer_list<const char*> parts) {

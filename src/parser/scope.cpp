@@ -53,12 +53,13 @@ brix_symrec* lookup_in(const brix_scope* scope, const char* name) {
 } // namespace
 
 unsigned brix_symbol_hash(const char* name) {
-    int32_t sum = 0;
+    // The sum wraps as a 32-bit word would; only its low 8 bits count.
+    uint32_t sum = 0;
     for (const char* p = name; *p != '\0'; ++p) {
         const int32_t c = static_cast<signed char>(*p);
-        sum += c * c;
+        sum += static_cast<uint32_t>(c * c);
     }
-    return (static_cast<uint32_t>(sum) & 0xFFU) % BRIX_SCOPE_BUCKETS;
+    return (sum & 0xFFU) % BRIX_SCOPE_BUCKETS;
 }
 
 void initialize() {
