@@ -41,12 +41,7 @@ unsigned long long all_ones_less(uint32_t w, unsigned long long k) {
     return static_cast<unsigned long long>(brix_pow(2, static_cast<int32_t>(w))) - k;
 }
 
-// Bin counts of wide ranges, their sums and the products of crosses wrap at the end of
-// the range instead of overflowing.
-long long wrapping_add(long long a, long long b) {
-    return static_cast<long long>(static_cast<unsigned long long>(a) +
-                                  static_cast<unsigned long long>(b));
-}
+// The products of crosses over wide bins wrap like their sums (wrapping_add).
 long long wrapping_mul(long long a, long long b) {
     return static_cast<long long>(static_cast<unsigned long long>(a) *
                                   static_cast<unsigned long long>(b));
@@ -353,7 +348,9 @@ void emit_reg_bits_cvr_class(const brix_register_type_tag* t) {
             return;
         }
         const uint32_t w = f->type->bits;
-        brix_emit(C().rb_point_head, f->name, static_cast<int>(lsb + w - 1), static_cast<int>(lsb));
+        brix_emit(C().rb_point_head, f->name,
+                  static_cast<int>(wrapping_add(lsb, static_cast<long long>(w) - 1)),
+                  static_cast<int>(lsb));
         int n = 0;
         for (uint32_t i = 0; i < w; ++i) {
             const std::string zero = bit_pattern(w, i, '0');

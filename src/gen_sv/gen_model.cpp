@@ -948,8 +948,8 @@ brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right
         long long guard = 0;
         if (ltr) {
             pos = f->offset != nullptr
-                      ? static_cast<long long>(layout.high - to_dec(f->offset)) - bits
-                      : pos - bits;
+                      ? wrapping_add(static_cast<long long>(layout.high - to_dec(f->offset)), -bits)
+                      : wrapping_add(pos, -bits);
         } else if (f->offset != nullptr) {
             const long long v = static_cast<long long>(to_dec(f->offset));
             if (pos > v) {
@@ -959,7 +959,7 @@ brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right
         }
         layout.lsb.push_back(pos);
         if (!ltr) {
-            pos = guard < 1 ? pos + bits : std::max(pos + bits, guard);
+            pos = guard < 1 ? wrapping_add(pos, bits) : std::max(wrapping_add(pos, bits), guard);
         }
     });
     return layout;

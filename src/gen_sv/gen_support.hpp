@@ -47,13 +47,20 @@ inline void raise(uint32_t& tracker, uint64_t value) {
     tracker = static_cast<uint32_t>(std::max<uint64_t>(tracker, value));
 }
 
+// Sums of positions and values that absurd descriptions can push past the range wrap
+// instead of overflowing.
+inline long long wrapping_add(long long a, long long b) {
+    return static_cast<long long>(static_cast<unsigned long long>(a) +
+                                  static_cast<unsigned long long>(b));
+}
+
 // The value of the next name of an enum: its written value read as a decimal number, else
-// one more than the previous, wrapping at the end of the range instead of overflowing.
+// one more than the previous.
 inline long long next_enum_value(const char* written, long long previous) {
     if (written != nullptr) {
         return strtol(written, nullptr, 10);
     }
-    return static_cast<long long>(static_cast<unsigned long long>(previous) + 1);
+    return wrapping_add(previous, 1);
 }
 
 inline uint64_t increment_or(const char* increment, uint64_t fallback) {

@@ -225,3 +225,21 @@ TEST_F(review_gen_test, one_array_name_in_two_domains_stops_at_its_second_key) {
 }
 
 } // namespace
+
+namespace {
+
+// A field placed at the top of the 64-bit range: its msb and the positions after it wrap
+// instead of overflowing (the sanitizer build stops the child on an overflow).
+TEST_F(review_gen_test, field_at_the_end_of_the_offset_range_wraps) {
+    ask("baf");
+    block_type(
+        "far",
+        {domain(nullptr, 8, nullptr,
+                {reg("r", reg_type("t", 8,
+                                   {field("a", 2, "rw", "0x7fffffffffffffff"), field("c", 3)}))})});
+    const brix_test::child_result run = generate_in_child("far");
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ(std::string::npos, run.err.find("runtime error")) << run.err;
+}
+
+} // namespace
