@@ -453,9 +453,12 @@ template <class Domain, class Type> void emit_container_ctor_tail(const Type* ty
     brix_emit(L().container_ctor_tail);
 }
 
+// A block writes the constraints of the domains that have some; a system runs every
+// domain's list through emit_constraints, so an empty one still leaves its blank line.
 template <class Domain> void emit_domain_constraints(const brix_list_tag* domains) {
+    constexpr bool every_domain = std::is_same_v<Domain, brix_system_domain_tag>;
     for_each_domain<Domain>(domains, [&](const Domain* d) {
-        if (d->constraints != nullptr) {
+        if (every_domain || d->constraints != nullptr) {
             emit_constraints(d->constraints);
         }
     });

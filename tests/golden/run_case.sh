@@ -20,6 +20,8 @@ mkdir "$work/run"
 (cd "$work/run" && find . -type f | sort) >"$work/inputs"
 
 eval "set -- $(cat "$case_dir/cmd")"
+# Files of an earlier process with the same id may lie in /tmp: only newer ones count.
+touch "$work/started"
 # argv[0] is the bare program name so that getopt's own lines are stable.
 (cd "$work/run" && exec -a brixgen "$bin" "$@" </dev/null >"$work/stdout" 2>"$work/stderr") &
 pid=$!
@@ -51,11 +53,11 @@ while read -r f; do
     [ -f "$work/run/$f" ] && compare "$exp/files/$f" "$work/run/$f" "$f"
 done <"$work/want"
 
-# The name without a timestamp holds no wildcard, so nullglob would keep it: test each.
 left=()
-for f in /tmp/qvt_*_"${pid}"_pure_brix /tmp/qvt_"${pid}"_pure_brix; do
-    [ -e "$f" ] && left+=("$f")
-done
+while read -r f; do
+    left+=("$f")
+done < <(find /tmp -maxdepth 1 -newer "$work/started" \( -name "qvt_*_${pid}_pure_brix" \
+    -o -name "qvt_${pid}_pure_brix" \))
 if [ -e "$exp/keeps_tmp" ]; then
     [ ${#left[@]} -eq 1 ] || { echo "--- temporary file was expected to stay"; fail=1; }
 else

@@ -112,6 +112,8 @@ TEST_F(gen_sv_blocks, documented_system_places_scalar_and_array) {
         "\trand brx_block_dma d0;\n"
         "\trand brx_block_dma d1[2];\n"
         "\n"
+        // The one domain's empty constraint list still ends in its blank line.
+        "\n"
         "\tfunction new(int cover_on = qvt_brx::NO_COVERAGE, string name = \"soc\", qvt_brx_sys "
         "parent = null, integer base_addr = 0);\n"
         "\t\tsuper.new(parent, name, \"soc\", 4, qvt_brx::LITTLE_ENDIAN, base_addr, \"\", "

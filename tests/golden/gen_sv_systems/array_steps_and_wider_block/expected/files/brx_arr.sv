@@ -51,6 +51,8 @@ class brx_sys_arr extends qvt_brx_sys;
 	rand brx_block_dma n;
 	rand brx_block_dma m;
 
+
+
 	function new(int cover_on = qvt_brx::NO_COVERAGE, string name = "arr", qvt_brx_sys parent = null, integer base_addr = 0);
 		super.new(parent, name, "arr", 4, qvt_brx::LITTLE_ENDIAN, base_addr, "wide", cover_on, qvt_brx::NO_COVERAGE);
 		this.add_domain(2, qvt_brx::LITTLE_ENDIAN, "narrow");

@@ -49,6 +49,7 @@ class brx_sys_soc extends qvt_brx_sys;
 	rand brx_block_dma d0;
 	rand brx_block_dma d1[2];
 
+
 	function new(int cover_on = qvt_brx::NO_COVERAGE, string name = "soc", qvt_brx_sys parent = null, integer base_addr = 0);
 		super.new(parent, name, "soc", 4, qvt_brx::LITTLE_ENDIAN, base_addr, "", cover_on, qvt_brx::NO_COVERAGE);
 		this.d0 = new(cover_on, "d0", this, `QVT_BRX_ADDR_WIDTH'h1000);

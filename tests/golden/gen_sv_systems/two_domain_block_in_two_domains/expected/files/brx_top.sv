@@ -35,6 +35,8 @@ endclass : brx_block_bridge
 class brx_sys_top extends qvt_brx_sys;
 	rand brx_block_bridge br;
 
+
+
 	function new(int cover_on = qvt_brx::NO_COVERAGE, string name = "top", qvt_brx_sys parent = null, integer base_addr = 0);
 		super.new(parent, name, "top", 4, qvt_brx::LITTLE_ENDIAN, base_addr, "d0", cover_on, qvt_brx::NO_COVERAGE);
 		this.add_domain(2, qvt_brx::LITTLE_ENDIAN, "d1");

@@ -55,6 +55,7 @@ class brx_sys_inner extends qvt_brx_sys;
 	rand brx_block_big g;
 	rand brx_block_small t;
 
+
 	function new(int cover_on = qvt_brx::NO_COVERAGE, string name = "inner", qvt_brx_sys parent = null, integer base_addr = 0);
 		super.new(parent, name, "inner", 8, qvt_brx::LITTLE_ENDIAN, base_addr, "", cover_on, qvt_brx::NO_COVERAGE);
 		foreach (this.s4[i]) begin
@@ -75,6 +76,8 @@ class brx_sys_outer extends qvt_brx_sys;
 	rand brx_sys_inner in0;
 	rand brx_block_small sm;
 	rand brx_block_small sq;
+
+
 
 	function new(int cover_on = qvt_brx::NO_COVERAGE, string name = "outer", qvt_brx_sys parent = null, integer base_addr = 0);
 		super.new(parent, name, "outer", 8, qvt_brx::LITTLE_ENDIAN, base_addr, "p", cover_on, qvt_brx::NO_COVERAGE);
