@@ -7,7 +7,7 @@
 
 #include "driver/driver.hpp"
 #include "gen_sv/gen_coverage.hpp"
-#include "gen_sv/gen_hooks.hpp"
+#include "gen_backdoor/backdoor.hpp"
 #include "gen_sv/gen_support.hpp"
 #include "semantic/model_copy.hpp"
 #include "semantic/semantic.hpp"

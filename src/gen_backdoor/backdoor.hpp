@@ -1,6 +1,6 @@
-// The places where the backdoor classes join the model text. Their writers come with that
-// feature; until then each writes nothing, so that the text around them is complete as it
-// stands with the backdoor off.
+// Backdoor access classes, reaching registers and memories straight through their hdl
+// paths. The generator calls these at fixed places; they write nothing yet, so that the
+// text around them is complete as it stands with the backdoor off.
 #pragma once
 
 #include "parser/model.hpp"

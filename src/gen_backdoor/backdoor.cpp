@@ -1,4 +1,4 @@
-#include "gen_sv/gen_hooks.hpp"
+#include "gen_backdoor/backdoor.hpp"
 
 void emit_register_backdoor(const brix_register_tag* /*reg*/) {}
 void emit_regfile_backdoor(const brix_regfile_tag* /*regfile*/) {}
