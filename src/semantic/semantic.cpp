@@ -303,34 +303,36 @@ bool field_vals_on(const brix_cvr_spec_tag* s) {
 }
 } // namespace
 
-int can_cvr_register_bits(const brix_register_type_tag* type) {
-    if (brix_cvr_reg_bits == 0) {
+namespace {
+// A model is on for a type when it was asked for at all and its `cvr_used` marks it.
+template <class Type>
+int coverage_query(int asked, const Type* type, const char* null_message,
+                   bool (*on)(const brix_cvr_spec_tag*)) {
+    if (asked == 0) {
         return 0;
     }
     if (type == nullptr) {
-        brix_error("can_cvr_register_bits(...) - NULL parameter received.\n");
+        brix_error(null_message);
     }
-    return reg_bits_on(type->cvr_used) ? 1 : 0;
+    return on(type->cvr_used) ? 1 : 0;
+}
+} // namespace
+
+int can_cvr_register_bits(const brix_register_type_tag* type) {
+    return coverage_query(brix_cvr_reg_bits, type,
+                          "can_cvr_register_bits(...) - NULL parameter received.\n", reg_bits_on);
 }
 
 int can_cvr_register_field_val(const brix_register_type_tag* type) {
-    if (brix_cvr_field_vals == 0) {
-        return 0;
-    }
-    if (type == nullptr) {
-        brix_error("can_cvr_register_field_val(...) - NULL parameter received.\n");
-    }
-    return field_vals_on(type->cvr_used) ? 1 : 0;
+    return coverage_query(brix_cvr_field_vals, type,
+                          "can_cvr_register_field_val(...) - NULL parameter received.\n",
+                          field_vals_on);
 }
 
 int can_cvr_block_field_val(const brix_block_type_tag* type) {
-    if (brix_cvr_field_vals == 0) {
-        return 0;
-    }
-    if (type == nullptr) {
-        brix_error("can_cvr_block_field_val(...) - NULL parameter received.\n");
-    }
-    return field_vals_on(type->cvr_used) ? 1 : 0;
+    return coverage_query(brix_cvr_field_vals, type,
+                          "can_cvr_block_field_val(...) - NULL parameter received.\n",
+                          field_vals_on);
 }
 
 int can_cvr_block_addr_map(const brix_block_type_tag* type, const char* domain) {
