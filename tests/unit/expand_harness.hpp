@@ -2,6 +2,7 @@
 // directory, ends the process on errors and keeps a process-wide interpreter.
 #pragma once
 
+#include "child_process.hpp"
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
 #include "expand/expand.hpp"
@@ -9,13 +10,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 
@@ -64,8 +63,6 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
     // A new name for each run, since the pure file is created exclusively.
     static int runs = 0;
     const std::string pure = (dir.path() / "pure").string() + std::to_string(++runs);
-    const std::string err = (dir.path() / "stderr").string();
-    const std::string out = (dir.path() / "stdout").string();
     const std::string description = (dir.path() / top).string();
     std::string absolute_inc;
     for (std::size_t start = 0; start < inc_dirs.size();) {
@@ -76,30 +73,19 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
         absolute_inc += (dir.path() / inc_dirs.substr(start, stop - start)).string();
         start = stop + 1;
     }
-    fflush(nullptr);
-    const pid_t pid = fork();
-    if (pid == 0) {
-        for (const auto& [name, fd_number] : {std::pair{&err, 2}, std::pair{&out, 1}}) {
-            const int fd = open(name->c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-            dup2(fd, fd_number);
-            close(fd);
-        }
+    const brix_test::child_result run = brix_test::run_in_child([&] {
         snprintf(pure_brix_file, sizeof pure_brix_file, "%s", pure.c_str());
         brix_inc_dirs = absolute_inc.empty() ? nullptr : strdup(absolute_inc.c_str());
         Tcl_FindExecutable(nullptr);
         expand_tcl_constructs(description.c_str(), pure.c_str());
         char cwd[4096];
         printf("%s\n", getcwd(cwd, sizeof cwd));
-        fflush(stdout);
-        _exit(0);
-    }
-    int wstatus = 0;
-    waitpid(pid, &wstatus, 0);
+    });
     expansion result;
-    result.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
+    result.status = run.status;
     result.pure = slurp(pure);
-    result.err = slurp(err);
-    result.out = slurp(out);
+    result.err = run.err;
+    result.out = run.out;
     return result;
 }
 
