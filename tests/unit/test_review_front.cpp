@@ -4,6 +4,7 @@
 #include "expand_harness.hpp"
 
 #include <cstring>
+#include <fcntl.h>
 #include <string>
 #include <sys/wait.h>
 #include <vector>
@@ -20,13 +21,7 @@ using expand_test::slurp;
 expansion expand_from(const std::filesystem::path& work, const std::string& top,
                       const std::string& inc_dirs) {
     const std::filesystem::path pure = work / "pure";
-    const std::filesystem::path err = work / "stderr";
-    fflush(nullptr);
-    const pid_t pid = fork();
-    if (pid == 0) {
-        const int fd = open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        dup2(fd, 2);
-        close(fd);
+    const brix_test::child_result child = brix_test::run_in_child([&] {
         if (chdir(work.c_str()) != 0) {
             _exit(99);
         }
@@ -34,14 +29,11 @@ expansion expand_from(const std::filesystem::path& work, const std::string& top,
         brix_inc_dirs = strdup(inc_dirs.c_str());
         Tcl_FindExecutable(nullptr);
         expand_tcl_constructs(top.c_str(), pure.c_str());
-        _exit(0);
-    }
-    int wstatus = 0;
-    waitpid(pid, &wstatus, 0);
+    });
     expansion run;
-    run.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : 128 + WTERMSIG(wstatus);
+    run.status = child.status;
     run.pure = slurp(pure);
-    run.err = slurp(err);
+    run.err = child.err;
     return run;
 }
 
