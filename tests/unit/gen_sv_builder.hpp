@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "driver/driver.hpp"
+#include "gen_plan/gen_plan.hpp"
 #include "gen_sv/gen_sv.hpp"
 #include "parser/model.hpp"
 #include "semantic/semantic.hpp"
@@ -243,6 +244,7 @@ class generator_test : public ::testing::Test {
         ofile = nullptr;
         brix_ext_ud = 0;
         brix_quiet_mode = 0;
+        ask_models("");
         std::string cmd = "rm -rf '" + dir_ + "'";
         EXPECT_EQ(0, system(cmd.c_str()));
     }
@@ -251,6 +253,25 @@ class generator_test : public ::testing::Test {
         check_semantics(top);
         emit_sv_brx_model(top);
         std::ifstream in(out_base_ + ".sv");
+        std::stringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+    // Asks for the coverage models of `letters` ("a", "b", "f" in any mix) and no others.
+    static void ask_models(const std::string& letters) {
+        brix_cvr_addr_map = letters.find('a') != std::string::npos ? 1 : 0;
+        brix_cvr_reg_bits = letters.find('b') != std::string::npos ? 1 : 0;
+        brix_cvr_field_vals = letters.find('f') != std::string::npos ? 1 : 0;
+    }
+    // The model and then the plan of `top`; returns the plan's text.
+    std::string generate_plan(const char* top) {
+        generate(top);
+        char here[4096];
+        EXPECT_NE(nullptr, getcwd(here, sizeof here));
+        EXPECT_EQ(0, chdir(dir_.c_str()));
+        emit_kpl_qvtp_model(top);
+        EXPECT_EQ(0, chdir(here));
+        std::ifstream in(dir_ + "/qvtp_" + top + ".kpl");
         std::stringstream text;
         text << in.rdbuf();
         return text.str();

@@ -76,21 +76,10 @@ TEST(calc_bin_weight, refuses_unknown_names_and_empty_bins) {
 class plan_test : public generator_test {
   protected:
     std::string plan(const char* top, const char* letters) {
-        const std::string l = letters;
-        brix_cvr_addr_map = l.find('a') != std::string::npos ? 1 : 0;
-        brix_cvr_reg_bits = l.find('b') != std::string::npos ? 1 : 0;
-        brix_cvr_field_vals = l.find('f') != std::string::npos ? 1 : 0;
-        generate(top);
-        char here[4096];
-        EXPECT_NE(nullptr, getcwd(here, sizeof here));
-        EXPECT_EQ(0, chdir(dir_.c_str()));
-        emit_kpl_qvtp_model(top);
-        EXPECT_EQ(0, chdir(here));
-        brix_cvr_addr_map = brix_cvr_reg_bits = brix_cvr_field_vals = 0;
-        std::ifstream in(dir_ + "/qvtp_" + top + ".kpl");
-        std::stringstream text;
-        text << in.rdbuf();
-        return text.str();
+        ask_models(letters);
+        const std::string text = generate_plan(top);
+        ask_models("");
+        return text;
     }
 };
 

@@ -21,35 +21,10 @@ brix_cvr_spec_tag* addr_map_off() {
     return spec;
 }
 
-// Runs the generator with only the coverage models of `letters` asked for.
-class review_gen_test : public generator_test {
-  protected:
-    void TearDown() override {
-        brix_cvr_addr_map = brix_cvr_reg_bits = brix_cvr_field_vals = 0;
-        generator_test::TearDown();
-    }
-    void ask(const std::string& letters) {
-        brix_cvr_addr_map = letters.find('a') != std::string::npos ? 1 : 0;
-        brix_cvr_reg_bits = letters.find('b') != std::string::npos ? 1 : 0;
-        brix_cvr_field_vals = letters.find('f') != std::string::npos ? 1 : 0;
-    }
-    // The model and then the plan of `top`; returns the plan.
-    std::string plan(const char* top) {
-        generate(top);
-        char here[4096];
-        EXPECT_NE(nullptr, getcwd(here, sizeof here));
-        EXPECT_EQ(0, chdir(dir_.c_str()));
-        emit_kpl_qvtp_model(top);
-        EXPECT_EQ(0, chdir(here));
-        std::ifstream in(dir_ + "/qvtp_" + top + ".kpl");
-        std::stringstream text;
-        text << in.rdbuf();
-        return text.str();
-    }
-};
+class review_gen_test : public generator_test {};
 
 TEST_F(review_gen_test, single_named_domain_declares_its_group_but_builds_addr_map) {
-    ask("a");
+    ask_models("a");
     block_type("nb",
                {domain("d", 4, nullptr, {reg("r", reg_type("t", 4, {field("f", 8)}), "0x0")})});
     const std::string text = generate("nb");
@@ -88,7 +63,7 @@ TEST_F(review_gen_test, single_named_domain_declares_its_group_but_builds_addr_m
 }
 
 TEST_F(review_gen_test, instances_without_address_map_leave_an_empty_group) {
-    ask("a");
+    ask_models("a");
     brix_register_type_tag* t = reg_type("t", 4, {field("f", 8)});
     node r = reg("r", t, "0x0");
     static_cast<brix_register_tag*>(r.second)->cvr_spec = addr_map_off();
@@ -106,7 +81,7 @@ TEST_F(review_gen_test, instances_without_address_map_leave_an_empty_group) {
 }
 
 TEST_F(review_gen_test, memories_of_one_location_have_backwards_ranges) {
-    ask("a");
+    ask_models("a");
     block_type("mb", {domain(nullptr, 4, nullptr,
                              {mem("one", mem_type("one_t", 1, 32), "0x20"),
                               mem("dbl", mem_type("dbl_t", 1, 64), "0x40")})});
@@ -143,7 +118,7 @@ TEST_F(review_gen_test, memories_of_one_location_have_backwards_ranges) {
 }
 
 TEST_F(review_gen_test, coverage_walk_takes_a_memory_span_in_32_bits) {
-    ask("a");
+    ask_models("a");
     block_type("huge", {domain(nullptr, 4, nullptr,
                                {mem("m", mem_type("m_t", 0x80000000ULL, 32), "0x0"),
                                 reg("r", reg_type("t", 4, {field("f", 8)}))})});
@@ -162,7 +137,7 @@ TEST_F(review_gen_test, coverage_walk_takes_a_memory_span_in_32_bits) {
 }
 
 TEST_F(review_gen_test, plan_of_nested_systems_with_bit_coverage_only) {
-    ask("b");
+    ask_models("b");
     brix_register_type_tag* only = reg_type("only", 4, {field("reserved", 8), field("unused", 24)});
     brix_block_type_tag* b =
         block_type("b", {domain(nullptr, 4, nullptr,
@@ -202,7 +177,7 @@ TEST_F(review_gen_test, plan_of_nested_systems_with_bit_coverage_only) {
               "        subplan sys_inner #(path=\"sub\");\n"
               "    endfeature\n"
               "endplan\n\n\n",
-              plan("s"));
+              generate_plan("s"));
 }
 
 TEST_F(review_gen_test, one_array_name_in_two_domains_stops_at_its_second_key) {
@@ -231,7 +206,7 @@ namespace {
 // A field placed at the top of the 64-bit range: its msb and the positions after it wrap
 // instead of overflowing (the sanitizer build stops the child on an overflow).
 TEST_F(review_gen_test, field_at_the_end_of_the_offset_range_wraps) {
-    ask("baf");
+    ask_models("baf");
     block_type(
         "far",
         {domain(nullptr, 8, nullptr,
