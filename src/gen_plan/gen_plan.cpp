@@ -261,13 +261,7 @@ void emit_system(const brix_system_type_tag* type, int level) {
 void emit_kpl_qvtp_model(const char* top_name) {
     top = top_name;
     strlen_top = static_cast<int32_t>(strlen(top_name));
-    const brix_symrec* sym = lookup_top_symbol(top_name);
-    if (sym == nullptr) {
-        brix_error("Error: The specified top '%s' doesn't exist.", top_name);
-    }
-    if (sym->kind != BRIX_BLOCK_TYPE && sym->kind != BRIX_SYSTEM_TYPE) {
-        brix_error("Error: Only blocks or systems can be specified as design 'top'.");
-    }
+    const brix_symrec* sym = lookup_design_top(top_name);
     const std::string file_name = "qvtp_" + std::string(top_name) + ".kpl";
     kpl_fp = fopen(file_name.c_str(), "w");
     if (kpl_fp == nullptr) {

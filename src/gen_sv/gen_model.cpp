@@ -1226,13 +1226,7 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_lang = &lang;
     brix_top = top;
     strlen_top = static_cast<uint32_t>(strlen(top));
-    const brix_symrec* sym = lookup_top_symbol(top);
-    if (sym == nullptr) {
-        brix_error("Error: The specified top '%s' doesn't exist.", top);
-    }
-    if (sym->kind != BRIX_BLOCK_TYPE && sym->kind != BRIX_SYSTEM_TYPE) {
-        brix_error("Error: Only blocks or systems can be specified as design 'top'.");
-    }
+    const brix_symrec* sym = lookup_design_top(top);
     for (brix_str2int_map* map : run_maps) {
         initialize_str2int_map(*map);
     }

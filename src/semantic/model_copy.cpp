@@ -306,3 +306,14 @@ brix_list_tag* copy_list(const brix_list_tag* list) {
     }
     return head;
 }
+
+const brix_symrec* lookup_design_top(const char* name) {
+    const brix_symrec* sym = lookup_top_symbol(name);
+    if (sym == nullptr) {
+        brix_error("Error: The specified top '%s' doesn't exist.", name);
+    }
+    if (sym->kind != BRIX_BLOCK_TYPE && sym->kind != BRIX_SYSTEM_TYPE) {
+        brix_error("Error: Only blocks or systems can be specified as design 'top'.");
+    }
+    return sym;
+}

@@ -7,6 +7,8 @@
 
 // A new symbol for the block or system type of that name; null when there is none.
 brix_symrec* lookup_top_symbol(const char* name);
+// The block or system named by -t; a missing top or one of another kind ends the run.
+const brix_symrec* lookup_design_top(const char* name);
 void check_system_data_consistency(brix_system_type_tag* system_type);
 
 // Each copies the record, duplicating only its cvr_spec and its own component lists; all

@@ -260,34 +260,30 @@ void check_system_type(brix_system_type_tag* type, brix_cvr_spec_tag* spec, brix
 
 } // namespace
 
-void check_semantics(const char* top) {
-    const brix_symrec* sym = lookup_top_symbol(top);
-    if (sym == nullptr) {
-        brix_error("Error: The specified top '%s' doesn't exist.", top);
-    }
-    if (sym->kind != BRIX_BLOCK_TYPE && sym->kind != BRIX_SYSTEM_TYPE) {
-        brix_error("Error: Only blocks or systems can be specified as design 'top'.");
-    }
+namespace {
+// The top's own spec: the design's default where it says nothing.
+template <class Type> brix_cvr_spec_tag* top_spec(Type* type) {
     brix_cvr_spec_tag* design_default = new_all_unsaid_cvr_spec();
     design_default->addr_map = 1;
     design_default->reg_bits = 1;
     design_default->field_vals = 0;
+    if (type->cvr_spec == nullptr) {
+        type->cvr_spec = design_default;
+    } else {
+        inherit(type->cvr_spec, design_default);
+    }
+    return type->cvr_spec;
+}
+} // namespace
+
+void check_semantics(const char* top) {
+    const brix_symrec* sym = lookup_design_top(top);
     if (sym->kind == BRIX_BLOCK_TYPE) {
         auto* type = static_cast<brix_block_type_tag*>(sym->data);
-        if (type->cvr_spec == nullptr) {
-            type->cvr_spec = design_default;
-        } else {
-            inherit(type->cvr_spec, design_default);
-        }
-        check_block_type(type, type->cvr_spec, nullptr, nullptr);
+        check_block_type(type, top_spec(type), nullptr, nullptr);
     } else {
         auto* type = static_cast<brix_system_type_tag*>(sym->data);
-        if (type->cvr_spec == nullptr) {
-            type->cvr_spec = design_default;
-        } else {
-            inherit(type->cvr_spec, design_default);
-        }
-        check_system_type(type, type->cvr_spec, nullptr, nullptr);
+        check_system_type(type, top_spec(type), nullptr, nullptr);
     }
 }
 
