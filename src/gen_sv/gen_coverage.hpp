@@ -74,8 +74,8 @@ struct brix_cvr_templates {
     // Address-map class.
     const char* am_class_head; // suffix
     const char* am_addr_member;
-    const char* am_event;       // a domain's sampling event, unnamed domain; null: none
-    const char* am_named_event; // domain
+    const char* am_event;            // a domain's sampling event, unnamed domain; null: none
+    const char* am_named_event;      // domain
     const char* am_group_head;       // (unnamed domain)
     const char* am_named_group_head; // domain
     const char* am_group_options[2];

@@ -1227,6 +1227,10 @@ void emit_system_itself(brix_system_type_tag* type) {
     brix_emit("\n\n");
 }
 
+std::string brix_model_file_name(const char* top, const brix_gen_templates& lang) {
+    return (ofile != nullptr ? std::string(ofile) : std::string("brx_") + top) + lang.file_suffix;
+}
+
 void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_lang = &lang;
     brix_top = top;
@@ -1240,8 +1244,7 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_largest_vregister_bytes = 0;
     brix_largest_vregister_incr = 0;
     uc_top = brix_strdup(upper(top).c_str());
-    const std::string file_name = ofile != nullptr ? std::string(ofile) + lang.file_suffix
-                                                   : std::string("brx_") + top + lang.file_suffix;
+    const std::string file_name = brix_model_file_name(top, lang);
     brx_model_fp = fopen(file_name.c_str(), "w");
     if (brx_model_fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", file_name);

@@ -13,6 +13,9 @@
 
 struct brix_cvr_templates;
 
+// Where the generated model sends a user who hits an internal model error.
+#define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
+
 // Every text that the walk writes, as a brix_emit format, for one target language.
 // The comment of each member names its arguments in order.
 struct brix_gen_templates {
@@ -81,9 +84,9 @@ struct brix_gen_templates {
     const char* field_alias_array_decl; // "rand " or "", register, field, size
     const char* field_short_decl;       // "rand " or "", field
     const char* field_short_array_decl; // "rand " or "", field, size
-    const char* regfile_ctor_head; // with any blank line the language puts in front of it
-    const char* regfile_reg_new;       // name, name, offset, rights, unmapped
-    const char* regfile_reg_array_new; // name, name, offset, increment, rights, unmapped
+    const char* regfile_ctor_head;      // with any blank line the language puts in front of it
+    const char* regfile_reg_new;        // name, name, offset, rights, unmapped
+    const char* regfile_reg_array_new;  // name, name, offset, increment, rights, unmapped
     const char* regfile_ctor_tail;
     const char* regfile_class_tail; // suffix
 
@@ -161,6 +164,8 @@ extern brix_list_tag* brix_hierarchy;
 
 // Writes the whole model of `top` with the templates of `lang`.
 void emit_brx_model(const char* top, const brix_gen_templates& lang);
+// The model's file: -o's value, else "brx_<top>", with the language's suffix.
+std::string brix_model_file_name(const char* top, const brix_gen_templates& lang);
 
 // `<scope_prefix>_<name>`, or `<name>` for a global definition.
 std::string brix_class_suffix(const char* scope_prefix, const char* name);

@@ -5,9 +5,6 @@
 
 namespace {
 
-// Where the generated model sends a user who hits an internal model error.
-#define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
-
 const brix_cvr_templates sv_cvr_templates = {
     /*fv_point_head*/ "%s_value : coverpoint %s.value",
     /*fv_body_open*/ " {\n",
