@@ -531,6 +531,35 @@ template <class F> void emit_domain_chain(const brix_block_type_tag* type, int i
         });
 }
 
+// The texts of one method of the address-map class.
+struct addr_class_method {
+    const char* head;
+    const char* single;     // the body with one domain
+    const char* per_domain; // domain, domain: the body of each domain's branch
+};
+
+// The constructor and `sample` of the address-map class: the domain is a parameter, and the
+// body a choice among the domains, only when there are several.
+void emit_addr_class_method(const brix_block_type_tag* type, int indent, const char* first_line,
+                            const addr_class_method& m) {
+    const bool several = count_nodes(type->domains) > 1;
+    at(indent + 1, m.head);
+    if (several) {
+        brix_emit(C().am_domain_param);
+    }
+    brix_emit(C().am_params_close);
+    if (first_line != nullptr) {
+        at(indent + 2, first_line);
+    }
+    if (several) {
+        emit_domain_chain(type, indent + 2,
+                          [&](const char* name) { at(indent + 3, m.per_domain, name, name); });
+    } else {
+        at(indent + 2, m.single);
+    }
+    at(indent + 1, C().am_function_tail);
+}
+
 } // namespace
 
 void emit_regfile_addrmap_cvtpnts(const brix_regfile_tag* f, uint64_t base, int index, int bytes,
@@ -551,7 +580,6 @@ void emit_block_cvr_class(const brix_block_type_tag* type, int indent) {
         brix_error("Error: INTERNAL - emit_block_cvr_class(...) - NULL parameter received.\n");
     }
     const std::string suffix = suffix_of(type);
-    const bool several = count_nodes(type->domains) > 1;
     at(indent, C().am_class_head, suffix);
     at(indent + 1, C().am_addr_member);
     if (C().am_event != nullptr) {
@@ -601,32 +629,11 @@ void emit_block_cvr_class(const brix_block_type_tag* type, int indent) {
             at(indent + 1, C().am_group_tail);
         });
     brix_emit("\n");
-    at(indent + 1, C().am_new_head);
-    if (several) {
-        brix_emit(C().am_domain_param);
-    }
-    brix_emit(C().am_params_close);
-    if (several) {
-        emit_domain_chain(type, indent + 2,
-                          [&](const char* name) { at(indent + 3, C().am_new_domain, name, name); });
-    } else {
-        at(indent + 2, C().am_new_single);
-    }
-    at(indent + 1, C().am_function_tail);
+    emit_addr_class_method(type, indent, nullptr,
+                           {C().am_new_head, C().am_new_single, C().am_new_domain});
     brix_emit("\n");
-    at(indent + 1, C().am_sample_head);
-    if (several) {
-        brix_emit(C().am_domain_param);
-    }
-    brix_emit(C().am_params_close);
-    at(indent + 2, C().am_sample_store);
-    if (several) {
-        emit_domain_chain(type, indent + 2,
-                          [&](const char* name) { at(indent + 3, C().am_sample_domain, name); });
-    } else {
-        at(indent + 2, C().am_sample_single);
-    }
-    at(indent + 1, C().am_function_tail);
+    emit_addr_class_method(type, indent, C().am_sample_store,
+                           {C().am_sample_head, C().am_sample_single, C().am_sample_domain});
     at(indent, C().am_class_tail, suffix);
     brix_emit("\n\n");
 }
