@@ -222,14 +222,22 @@ long long emit_coverpoint_bins(const brix_cvr_pnt* pnt, int indent,
     long long total = 0;
     for (const brix_list_tag* n = pnt->bins; n != nullptr; n = n->next) {
         const auto* b = static_cast<const brix_cvr_bin*>(n->data);
-        at(indent, C().bin_head, b->name);
+        indent_code(indent, brx_model_fp);
+        if (b->values == nullptr && C().bin_default_alone != nullptr) {
+            brix_emit(C().bin_default_alone, b->name);
+            continue;
+        }
         if (b->auto_bins) {
-            brix_emit(C().bin_auto);
+            brix_emit(C().bin_auto_head, b->name);
             total = wrapping_add(total, calc_bin_weight(b, enum_values));
         } else if (b->num_bins > 0) {
-            brix_emit(C().bin_count, b->num_bins);
+            if (C().bin_count_head == nullptr) {
+                continue;
+            }
+            brix_emit(C().bin_count_head, b->name, b->num_bins);
             total = wrapping_add(total, b->num_bins);
         } else {
+            brix_emit(C().bin_head, b->name);
             total = wrapping_add(total, 1);
         }
         brix_emit(C().bin_assign);
@@ -258,6 +266,26 @@ long long emit_coverpoint_bins(const brix_cvr_pnt* pnt, int indent,
     }
     return total;
 }
+
+namespace {
+
+// The name that follows the keyword of a cross: its label, or its items joined.
+void emit_cross_name(const brix_cross* cross) {
+    if (cross->label != nullptr) {
+        brix_emit(C().cross_name_label, cross->label);
+        return;
+    }
+    brix_emit(C().cross_name_open);
+    for (const brix_list_tag* i = cross->items; i != nullptr; i = i->next) {
+        if (i != cross->items) {
+            brix_emit(C().cross_name_sep);
+        }
+        brix_emit("%s", static_cast<const char*>(i->data));
+    }
+    brix_emit(C().cross_name_close);
+}
+
+} // namespace
 
 void emit_reg_fldval_cvr_n_cross_pnts(const brix_register_type_tag* t, int indent,
                                       const brix_enum_table& enums) {
@@ -294,10 +322,13 @@ void emit_reg_fldval_cvr_n_cross_pnts(const brix_register_type_tag* t, int inden
         }
         long long p = 1;
         indent_code(indent, brx_model_fp);
-        if (cross->label != nullptr) {
+        if (cross->label != nullptr && C().cross_label != nullptr) {
             brix_emit(C().cross_label, cross->label);
         }
         brix_emit(C().cross_head);
+        if (C().cross_name_open != nullptr) {
+            emit_cross_name(cross);
+        }
         for (const brix_list_tag* i = cross->items; i != nullptr; i = i->next) {
             const auto* item = static_cast<const char*>(i->data);
             if (i != cross->items) {
@@ -344,7 +375,7 @@ void emit_reg_bits_cvr_class(const brix_register_type_tag* t) {
     size_t index = 0;
     for_each_field(t->fields, [&](const brix_field_tag* f) {
         const long long lsb = layout.lsb[index++];
-        if (!is_real_field(f) || !reg_bits_on(f->cvr_spec)) {
+        if (!is_real_field(f) || (!C().rb_every_field && !reg_bits_on(f->cvr_spec))) {
             return;
         }
         const uint32_t w = f->type->bits;
@@ -500,6 +531,35 @@ template <class F> void emit_domain_chain(const brix_block_type_tag* type, int i
         });
 }
 
+// The texts of one method of the address-map class.
+struct addr_class_method {
+    const char* head;
+    const char* single;     // the body with one domain
+    const char* per_domain; // domain, domain: the body of each domain's branch
+};
+
+// The constructor and `sample` of the address-map class: the domain is a parameter, and the
+// body a choice among the domains, only when there are several.
+void emit_addr_class_method(const brix_block_type_tag* type, int indent, const char* first_line,
+                            const addr_class_method& m) {
+    const bool several = count_nodes(type->domains) > 1;
+    at(indent + 1, m.head);
+    if (several) {
+        brix_emit(C().am_domain_param);
+    }
+    brix_emit(C().am_params_close);
+    if (first_line != nullptr) {
+        at(indent + 2, first_line);
+    }
+    if (several) {
+        emit_domain_chain(type, indent + 2,
+                          [&](const char* name) { at(indent + 3, m.per_domain, name, name); });
+    } else {
+        at(indent + 2, m.single);
+    }
+    at(indent + 1, C().am_function_tail);
+}
+
 } // namespace
 
 void emit_regfile_addrmap_cvtpnts(const brix_regfile_tag* f, uint64_t base, int index, int bytes,
@@ -520,19 +580,31 @@ void emit_block_cvr_class(const brix_block_type_tag* type, int indent) {
         brix_error("Error: INTERNAL - emit_block_cvr_class(...) - NULL parameter received.\n");
     }
     const std::string suffix = suffix_of(type);
-    const bool several = count_nodes(type->domains) > 1;
     at(indent, C().am_class_head, suffix);
     at(indent + 1, C().am_addr_member);
+    if (C().am_event != nullptr) {
+        for_each_domain<const brix_block_domain_tag>(
+            type->domains, [&](const brix_block_domain_tag* d) {
+                if (d->name != nullptr) {
+                    at(indent + 1, C().am_named_event, d->name);
+                } else {
+                    at(indent + 1, C().am_event);
+                }
+            });
+    }
     for_each_domain<const brix_block_domain_tag>(
         type->domains, [&](const brix_block_domain_tag* d) {
             brix_emit("\n");
             if (d->name != nullptr) {
                 at(indent + 1, C().am_named_group_head, d->name);
+                for (const char* option : C().am_named_group_options) {
+                    at(indent + 2, option, d->name);
+                }
             } else {
                 at(indent + 1, C().am_group_head);
-            }
-            for (const char* option : C().am_group_options) {
-                at(indent + 2, option, d->name != nullptr ? d->name : "");
+                for (const char* option : C().am_group_options) {
+                    at(indent + 2, option);
+                }
             }
             const auto bytes = static_cast<uint64_t>(d->bytes);
             brix_offset_walk walk;
@@ -557,32 +629,11 @@ void emit_block_cvr_class(const brix_block_type_tag* type, int indent) {
             at(indent + 1, C().am_group_tail);
         });
     brix_emit("\n");
-    at(indent + 1, C().am_new_head);
-    if (several) {
-        brix_emit(C().am_domain_param);
-    }
-    brix_emit(C().am_params_close);
-    if (several) {
-        emit_domain_chain(type, indent + 2,
-                          [&](const char* name) { at(indent + 3, C().am_new_domain, name, name); });
-    } else {
-        at(indent + 2, C().am_new_single);
-    }
-    at(indent + 1, C().am_function_tail);
+    emit_addr_class_method(type, indent, nullptr,
+                           {C().am_new_head, C().am_new_single, C().am_new_domain});
     brix_emit("\n");
-    at(indent + 1, C().am_sample_head);
-    if (several) {
-        brix_emit(C().am_domain_param);
-    }
-    brix_emit(C().am_params_close);
-    at(indent + 2, C().am_sample_store);
-    if (several) {
-        emit_domain_chain(type, indent + 2,
-                          [&](const char* name) { at(indent + 3, C().am_sample_domain, name); });
-    } else {
-        at(indent + 2, C().am_sample_single);
-    }
-    at(indent + 1, C().am_function_tail);
+    emit_addr_class_method(type, indent, C().am_sample_store,
+                           {C().am_sample_head, C().am_sample_single, C().am_sample_domain});
     at(indent, C().am_class_tail, suffix);
     brix_emit("\n\n");
 }

@@ -27,16 +27,24 @@ struct brix_cvr_templates {
     const char* fv_others;     // bits, bits, 2^bits - 2
     const char* weight;        // weight; shared by all coverpoints and crosses
     const char* point_close;
-    const char* cross_label; // label
+    const char* cross_label; // label, ahead of the keyword; null: the label names the cross
     const char* cross_head;
+    // The name behind the keyword, for a language in which every cross has one; null: none.
+    const char* cross_name_label; // label
+    const char* cross_name_open;  // ahead of the items joined into the name of an unlabelled cross
+    const char* cross_name_sep;
+    const char* cross_name_close;
     const char* cross_item_sep;
     const char* cross_field_suffix; // behind an item that is a field
     const char* cross_open;
 
     // User bins of a coverpoint.
-    const char* bin_head;  // name
-    const char* bin_auto;  // the `[]` form
-    const char* bin_count; // n of the `[n]` form
+    // A bin without values, whole and counting no bin; null: it is written as the others,
+    // ending in bin_default, and counts one.
+    const char* bin_default_alone; // name
+    const char* bin_auto_head;     // name: the `[]` form
+    const char* bin_count_head;    // name, n: the `[n]` form; null: such a bin writes nothing
+    const char* bin_head;          // name
     const char* bin_assign;
     const char* bin_default;
     const char* bin_values_open;
@@ -48,6 +56,7 @@ struct brix_cvr_templates {
     const char* bin_enum_class; // class of the field's enum, ahead of an enum name
 
     // Register-bit class.
+    bool rb_every_field;       // every real field has a coverpoint, whatever its own spec
     const char* rb_class_head; // suffix
     const char* rb_point_head; // field, msb, lsb
     const char* rb_wr_as_0;    // bit, width of the pattern
@@ -65,9 +74,12 @@ struct brix_cvr_templates {
     // Address-map class.
     const char* am_class_head; // suffix
     const char* am_addr_member;
+    const char* am_event;            // a domain's sampling event, unnamed domain; null: none
+    const char* am_named_event;      // domain
     const char* am_group_head;       // (unnamed domain)
     const char* am_named_group_head; // domain
     const char* am_group_options[2];
+    const char* am_named_group_options[2]; // domain
     const char* am_group_tail;
     const char* am_new_head;
     const char* am_domain_param; // behind the first parameter with several domains

@@ -209,7 +209,12 @@ void emit_register_enum_classes(const brix_register_type_tag* t, brix_enum_table
         if (e == nullptr || e->names == nullptr) {
             return;
         }
-        brix_emit(L().enum_class_head, suffix, f->name, static_cast<int>(f->type->bits) - 1);
+        brix_emit(L().enum_class_head, suffix, f->name);
+        if (L().enum_type_by_field) {
+            brix_emit(L().enum_type_head, f->name);
+        } else {
+            brix_emit(L().enum_type_head, static_cast<int>(f->type->bits) - 1);
+        }
         long long v = -1;
         auto& values = enums[f->name];
         for (const brix_list_tag* n = e->names; n != nullptr; n = n->next) {
@@ -1222,6 +1227,10 @@ void emit_system_itself(brix_system_type_tag* type) {
     brix_emit("\n\n");
 }
 
+std::string brix_model_file_name(const char* top, const brix_gen_templates& lang) {
+    return (ofile != nullptr ? std::string(ofile) : std::string("brx_") + top) + lang.file_suffix;
+}
+
 void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_lang = &lang;
     brix_top = top;
@@ -1235,13 +1244,16 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_largest_vregister_bytes = 0;
     brix_largest_vregister_incr = 0;
     uc_top = brix_strdup(upper(top).c_str());
-    const std::string file_name = ofile != nullptr ? std::string(ofile) + lang.file_suffix
-                                                   : std::string("brx_") + top + lang.file_suffix;
+    const std::string file_name = brix_model_file_name(top, lang);
     brx_model_fp = fopen(file_name.c_str(), "w");
     if (brx_model_fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", file_name);
     }
-    brix_emit(lang.file_head, uc_top, uc_top);
+    if (brix_gen_backdoor && lang.backdoor_file_head != nullptr) {
+        lang.backdoor_file_head();
+    } else {
+        brix_emit(lang.file_head, uc_top, uc_top);
+    }
     if (sym->kind == BRIX_BLOCK_TYPE) {
         auto* type = static_cast<brix_block_type_tag*>(sym->data);
         emit_block_components(type);

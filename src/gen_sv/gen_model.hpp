@@ -13,11 +13,17 @@
 
 struct brix_cvr_templates;
 
+// Where the generated model sends a user who hits an internal model error.
+#define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
+
 // Every text that the walk writes, as a brix_emit format, for one target language.
 // The comment of each member names its arguments in order.
 struct brix_gen_templates {
     const char* file_suffix; // appended to -o's value or to "brx_<top>"
     const char* file_head;   // uc_top, uc_top
+    // With -b, writes the model's head in place of file_head, for a language whose backdoor
+    // reaches the design through side files of its own; null: file_head serves.
+    void (*backdoor_file_head)();
     const char* file_tail;
     const char* width_warning; // data width in bits
 
@@ -49,7 +55,9 @@ struct brix_gen_templates {
     const char* reg_class_tail;      // suffix
 
     // Enum classes of fields.
-    const char* enum_class_head; // suffix, field, bits - 1
+    const char* enum_class_head; // suffix, field
+    const char* enum_type_head;  // bits - 1, or the field with enum_type_by_field
+    bool enum_type_by_field;     // the enum type is named after the field and has no width
     const char* enum_separator;
     const char* enum_name;       // name
     const char* enum_value;      // value as written
@@ -76,9 +84,9 @@ struct brix_gen_templates {
     const char* field_alias_array_decl; // "rand " or "", register, field, size
     const char* field_short_decl;       // "rand " or "", field
     const char* field_short_array_decl; // "rand " or "", field, size
-    const char* regfile_ctor_head;
-    const char* regfile_reg_new;       // name, name, offset, rights, unmapped
-    const char* regfile_reg_array_new; // name, name, offset, increment, rights, unmapped
+    const char* regfile_ctor_head;      // with any blank line the language puts in front of it
+    const char* regfile_reg_new;        // name, name, offset, rights, unmapped
+    const char* regfile_reg_array_new;  // name, name, offset, increment, rights, unmapped
     const char* regfile_ctor_tail;
     const char* regfile_class_tail; // suffix
 
@@ -156,6 +164,8 @@ extern brix_list_tag* brix_hierarchy;
 
 // Writes the whole model of `top` with the templates of `lang`.
 void emit_brx_model(const char* top, const brix_gen_templates& lang);
+// The model's file: -o's value, else "brx_<top>", with the language's suffix.
+std::string brix_model_file_name(const char* top, const brix_gen_templates& lang);
 
 // `<scope_prefix>_<name>`, or `<name>` for a global definition.
 std::string brix_class_suffix(const char* scope_prefix, const char* name);

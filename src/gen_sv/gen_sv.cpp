@@ -5,9 +5,6 @@
 
 namespace {
 
-// Where the generated model sends a user who hits an internal model error.
-#define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
-
 const brix_cvr_templates sv_cvr_templates = {
     /*fv_point_head*/ "%s_value : coverpoint %s.value",
     /*fv_body_open*/ " {\n",
@@ -20,13 +17,18 @@ const brix_cvr_templates sv_cvr_templates = {
     /*point_close*/ "}\n",
     /*cross_label*/ "%s : ",
     /*cross_head*/ "cross ",
+    /*cross_name_label*/ nullptr,
+    /*cross_name_open*/ nullptr,
+    /*cross_name_sep*/ nullptr,
+    /*cross_name_close*/ nullptr,
     /*cross_item_sep*/ ", ",
     /*cross_field_suffix*/ "_value",
     /*cross_open*/ " {\n",
 
+    /*bin_default_alone*/ nullptr,
+    /*bin_auto_head*/ "bins %s[]",
+    /*bin_count_head*/ "bins %s[%d]",
     /*bin_head*/ "bins %s",
-    /*bin_auto*/ "[]",
-    /*bin_count*/ "[%d]",
     /*bin_assign*/ " = ",
     /*bin_default*/ "default;\n",
     /*bin_values_open*/ "{ ",
@@ -37,6 +39,7 @@ const brix_cvr_templates sv_cvr_templates = {
     /*bin_range_close*/ "]",
     /*bin_enum_class*/ "%s::",
 
+    /*rb_every_field*/ false,
     /*rb_class_head*/
     "class brx_cvr_reg_%s;\n"
     "\tlocal bit [`QVT_BRX_DATA_WIDTH-1:0] data;\n"
@@ -74,9 +77,12 @@ const brix_cvr_templates sv_cvr_templates = {
 
     /*am_class_head*/ "class brx_cvr_block_%s;\n",
     /*am_addr_member*/ "local bit [`QVT_BRX_ADDR_WIDTH-1:0] addr;\n",
+    /*am_event*/ nullptr,
+    /*am_named_event*/ nullptr,
     /*am_group_head*/ "covergroup addr_map (input string name);\n",
     /*am_named_group_head*/ "covergroup %s_addr_map (input string name);\n",
     /*am_group_options*/ {"option.name = name;\n", "option.per_instance = 1;\n"},
+    /*am_named_group_options*/ {"option.name = name;\n", "option.per_instance = 1;\n"},
     /*am_group_tail*/ "endgroup\n",
     /*am_new_head*/ "function new (string name",
     /*am_domain_param*/ ", string domain",
@@ -140,6 +146,7 @@ const brix_cvr_templates sv_cvr_templates = {
 const brix_gen_templates sv_templates = {
     /*file_suffix*/ ".sv",
     /*file_head*/ "`ifndef BRX_%s\n`define BRX_%s\n\n`include \"qvt_brx.sv\"\n\n",
+    /*backdoor_file_head*/ nullptr,
     /*file_tail*/ "`endif\n",
     /*width_warning*/
     "Warning: This BRX model requires `QVT_BRX_DATA_WIDTH macro to be defined to %d or "
@@ -199,7 +206,9 @@ const brix_gen_templates sv_templates = {
      "\tendfunction\n"},
     /*reg_class_tail*/ "endclass : brx_reg_%s\n",
 
-    /*enum_class_head*/ "class brx_fld_%s_%s;\n\ttypedef enum bit[%d:0] { ",
+    /*enum_class_head*/ "class brx_fld_%s_%s;\n",
+    /*enum_type_head*/ "\ttypedef enum bit[%d:0] { ",
+    /*enum_type_by_field*/ false,
     /*enum_separator*/ ", ",
     /*enum_name*/ "\n\t\t%s",
     /*enum_value*/ " = %s",

@@ -1,5 +1,5 @@
-// Builds small models by hand, as the parser would leave them, and runs the SystemVerilog
-// generator over them into a temporary folder.
+// Builds small models by hand, as the parser would leave them, and runs a model generator
+// over them into a temporary folder.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "driver/driver.hpp"
+#include "gen_hx/gen_hx.hpp"
 #include "gen_plan/gen_plan.hpp"
 #include "gen_sv/gen_sv.hpp"
 #include "parser/model.hpp"
@@ -248,11 +249,11 @@ class generator_test : public ::testing::Test {
         std::string cmd = "rm -rf '" + dir_ + "'";
         EXPECT_EQ(0, system(cmd.c_str()));
     }
-    // Runs the checks and the generator for `top` and returns the generated text.
-    std::string generate(const char* top) {
+    // Runs the checks and the generator of `lang` for `top` and returns the generated text.
+    std::string generate(const char* top, const std::string& lang = "sv") {
         check_semantics(top);
-        emit_sv_brx_model(top);
-        std::ifstream in(out_base_ + ".sv");
+        (lang == "hx" ? emit_hx_brx_model : emit_sv_brx_model)(top);
+        std::ifstream in(out_base_ + "." + (lang == "hx" ? "hxs" : "sv"));
         std::stringstream text;
         text << in.rdbuf();
         return text.str();
