@@ -35,7 +35,8 @@ fi
 page="$prefix/share/man/man1/brixgen.1"
 if ! command -v groff >/dev/null || ! command -v man >/dev/null; then
     echo "groff or man is not installed (scripts/install_deps.sh installs them): manual page not checked"
-    exit 77
+    [ $fail -eq 0 ] && exit 77
+    exit 1
 fi
 warnings=$(groff -man -wall -z "$page" 2>&1)
 [ -z "$warnings" ] || { echo "--- groff -wall:"; echo "$warnings"; fail=1; }
