@@ -13,7 +13,7 @@ if ! cmake --install "$build" --prefix "$prefix" >"$prefix/install.log" 2>&1; th
     exit 1
 fi
 fail=0
-for f in bin/brixgen share/man/man1/brixgen.1 share/doc/brixgen/guide.md \
+for f in bin/brixgen share/man/man1/brixgen.1.gz share/doc/brixgen/guide.md \
     share/doc/brixgen/README.md share/doc/brixgen/examples/uart/uart.brix \
     share/doc/brixgen/examples/soc/soc.brix; do
     [ -f "$prefix/$f" ] || { echo "--- not installed: $f"; fail=1; }
@@ -32,13 +32,13 @@ if [ $status -ne 0 ] || [ -s "$prefix/err" ] || [ ! -s "$prefix/run/brx_uart.sv"
 fi
 
 # The manual page: groff's warnings, then man's own rendering at two widths.
-page="$prefix/share/man/man1/brixgen.1"
+page="$prefix/share/man/man1/brixgen.1.gz"
 if ! command -v groff >/dev/null || ! command -v man >/dev/null; then
     echo "groff or man is not installed (scripts/install_deps.sh installs them): manual page not checked"
     [ $fail -eq 0 ] && exit 77
     exit 1
 fi
-warnings=$(groff -man -wall -z "$page" 2>&1)
+warnings=$(gzip -dc "$page" | groff -man -wall -z 2>&1)
 [ -z "$warnings" ] || { echo "--- groff -wall:"; echo "$warnings"; fail=1; }
 for width in 80 60; do
     text=$(MANWIDTH=$width MANPAGER=cat man --warnings=all -l "$page" 2>"$prefix/man.err")

@@ -35,7 +35,7 @@ grep -Eq '(^|, )libtcl8\.6( |,|$)' <<<"$depends" ||
     { echo "--- no dependency on the Tcl 8.6 library: $depends"; fail=1; }
 
 dpkg-deb -c "$deb" | awk '{ print $6 }' >"$work/contents"
-for f in ./usr/bin/brixgen ./usr/share/man/man1/brixgen.1 ./usr/share/doc/brixgen/guide.md \
+for f in ./usr/bin/brixgen ./usr/share/man/man1/brixgen.1.gz ./usr/share/doc/brixgen/guide.md \
     ./usr/share/doc/brixgen/examples/uart/uart.brix; do
     grep -qx "$f" "$work/contents" || { echo "--- not in the package: $f"; fail=1; }
 done
