@@ -238,9 +238,9 @@ void emit_field_access_macro(access dir, const field_site& s, c_buffers& b, bool
                << "'\");\\\n\t\tqvt_brx_field__" << word(dir) << "(__qvt_r, " << lsb_bits
                << ";\\\n";
             if (dir == access::write) {
-                os << "\t\tif (qvt_brx_status == 1)\\\n\t\t\tqvt_brx_error(\"Failed to write field "
-                      "'"
-                   << f << "' of register '" << s.reg << "' in block '" << s.suffix
+                os << "\t\tif (qvt_brx_status == 1)\\\n"
+                   << "\t\t\tqvt_brx_error(\"Failed to write field '" << f << "' of register '"
+                   << s.reg << "' in block '" << s.suffix
                    << "'\");\\\n\t\tqvt_brx_reg__write(reg, &qvt_brx_status, __qvt_r, 0, 0x" << last
                    << ");\\\n";
             }
