@@ -1,0 +1,1 @@
+../sv_block/use.c
