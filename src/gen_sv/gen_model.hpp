@@ -12,6 +12,7 @@
 #include "parser/model.hpp"
 
 struct brix_cvr_templates;
+struct brix_bkdr_templates;
 
 // Every text that the walk writes, as a brix_emit format, for one target language.
 // The comment of each member names its arguments in order.
@@ -137,6 +138,8 @@ struct brix_gen_templates {
 
     // The texts of the three coverage models.
     const brix_cvr_templates* cvr;
+    // The texts of the backdoor classes.
+    const brix_bkdr_templates* bkdr;
 };
 
 // The table of the language now being written.
