@@ -81,7 +81,10 @@ bool holds(const brix_hdl_path_tag* path, const char* text) {
 // An array level whose first path holds the variable index that
 // process_backdoor_hdl_path leaves: "[<name>]".
 bool has_variable_index(const bkdr_level& l) {
-    return is_array(l.array_size) && holds(l.hdl_path, ("[" + std::string(l.name) + "]").c_str());
+    std::string index = "[";
+    index += l.name;
+    index += ']';
+    return is_array(l.array_size) && holds(l.hdl_path, index.c_str());
 }
 
 // The level of the object being written, for as long as it is written.
@@ -620,7 +623,9 @@ template <class Rec, class F> void expand_level(Rec* r, F& leaf) {
     r->array_size = -1;
     r->tmp_info = &info;
     for (int i = 0; i < info.array_size; ++i) {
-        const std::string mark = "X" + std::to_string(i) + "X";
+        std::string mark = "X";
+        mark += std::to_string(i);
+        mark += 'X';
         std::string name = info.name + mark;
         std::string path = head + mark + tail;
         r->name = name.data();
