@@ -733,9 +733,17 @@ void emit_backdoor_tasks_in_class(const brix_bkdr_object& o, bool writable) {
             continue;
         }
         brix_emit(t.task_body_open);
-        emit_backdoor_code({o, dir, false}, brix_hierarchy, 2, nullptr);
+        emit_backdoor_access_code(o, dir);
         brix_emit(t.task_ok_tail[d]);
     }
+}
+
+void emit_backdoor_access_code(const brix_bkdr_object& o, brix_bkdr_dir dir) {
+    emit_backdoor_code({o, dir, false}, brix_hierarchy, 2, nullptr);
+}
+
+std::vector<const char*> backdoor_index_members(const brix_bkdr_object& o) {
+    return index_members(o);
 }
 
 void emit_register_backdoor(const brix_register_tag* reg) {
@@ -903,4 +911,6 @@ std::string get_hdl_path_with_mem_bkdr_wrkaround(const char* name, const brix_hd
     return result;
 }
 
+// The connector's registers are declared as VHDL objects are reached, and no access reaches
+// one yet (emit_vhdl_backdoor_access): with nothing declared there is no file to write.
 void emit_vhdl_bkdr_connection_module() {}

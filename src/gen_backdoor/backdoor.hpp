@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "parser/model.hpp"
 
@@ -70,6 +71,11 @@ struct brix_bkdr_templates {
 
 // The tasks of a class written inside the class itself, with the access statements.
 void emit_backdoor_tasks_in_class(const brix_bkdr_object& obj, bool writable);
+// The body of one task, from the head of brix_hierarchy down, to the statement stream; the
+// caller has indented its first line. A language whose tasks live apart calls this.
+void emit_backdoor_access_code(const brix_bkdr_object& obj, brix_bkdr_dir dir);
+// The array levels above the object that its class keeps an index for, outermost first.
+std::vector<const char*> backdoor_index_members(const brix_bkdr_object& obj);
 
 // Classes, written ahead of the classes of the top's components.
 void emit_register_backdoor(const brix_register_tag* reg);
