@@ -93,7 +93,7 @@ class hierarchy_level {
     hierarchy_level(int tag, const void* record) {
         brix_list_push(&brix_hierarchy, create_brix_list_node(tag, const_cast<void*>(record)));
     }
-    ~hierarchy_level() { brix_free(brix_list_pop(&brix_hierarchy)); }
+    ~hierarchy_level() { destroy_brix_list(brix_list_pop(&brix_hierarchy)); }
     hierarchy_level(const hierarchy_level&) = delete;
     hierarchy_level& operator=(const hierarchy_level&) = delete;
 };
