@@ -82,7 +82,10 @@ void yyerror(const char* message) {
 }
 
 void brix_vemit(const char* fmt, brix_args args) {
-    FILE* out = brx_model_fp;
+    brix_vemit_to(brx_model_fp, fmt, args);
+}
+
+void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
     for (const char* p = fmt; *p != '\0'; ++p) {
         if (*p != '%') {
             fputc(*p, out);

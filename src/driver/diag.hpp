@@ -58,6 +58,8 @@ void brix_vwarn(const char* fmt, brix_args args);
 [[noreturn]] void brix_vyyerror(const char* fmt, brix_args args);
 void brix_vyywarn(const char* fmt, brix_args args);
 void brix_vemit(const char* fmt, brix_args args);
+// brix_emit's format language, to another stream than the model's.
+void brix_vemit_to(FILE* out, const char* fmt, brix_args args);
 // Writes a diagnostic's format to stderr in the diagnostics' format language.
 void brix_diag_format(const char* fmt, brix_args args);
 

@@ -745,7 +745,8 @@ void emit_block_constructor(brix_block_type_tag* type, const brix_str2int_map& n
             } else if (c->tag == BRIX_REGFILE) {
                 emit_regfile_backdoor_instantiations(static_cast<const brix_regfile_tag*>(c->data));
             } else if (c->tag == BRIX_MEMORY) {
-                emit_memory_backdoor_instantiations(static_cast<const brix_memory_tag*>(c->data));
+                emit_memory_backdoor_instantiations_plain_or_mixed(
+                    static_cast<const brix_memory_tag*>(c->data));
             }
         });
     }
@@ -887,14 +888,14 @@ void emit_system_constructor(brix_system_type_tag* type) {
     free_str2str_map(instantiated, 1);
     if (is_top_itself(type)) {
         brix_emit(L().backdoor_banner);
-        for_each_component<brix_system_domain_tag>(type->domains, [&](const brix_system_domain_tag*,
-                                                                      const brix_list_tag* c) {
-            if (c->tag == BRIX_BLOCK) {
-                emit_block_backdoor_instantiations(static_cast<const brix_block_tag*>(c->data));
-            } else {
-                emit_system_backdoor_instantiations(static_cast<const brix_system_tag*>(c->data));
-            }
-        });
+        for_each_component<brix_system_domain_tag>(
+            type->domains, [&](const brix_system_domain_tag*, const brix_list_tag* c) {
+                if (c->tag == BRIX_BLOCK) {
+                    emit_block_backdoor_instantiations(static_cast<brix_block_tag*>(c->data));
+                } else {
+                    emit_system_backdoor_instantiations(static_cast<brix_system_tag*>(c->data));
+                }
+            });
     }
     emit_container_ctor_tail<brix_system_domain_tag>(type);
 }

@@ -12,6 +12,7 @@
 #include "parser/model.hpp"
 
 struct brix_cvr_templates;
+struct brix_bkdr_templates;
 
 // Where the generated model sends a user who hits an internal model error.
 #define BRIX_SUPPORT_ADDRESS "brix-support@marsdale.com"
@@ -145,6 +146,8 @@ struct brix_gen_templates {
 
     // The texts of the three coverage models.
     const brix_cvr_templates* cvr;
+    // The texts of the backdoor classes.
+    const brix_bkdr_templates* bkdr;
 };
 
 // The table of the language now being written.

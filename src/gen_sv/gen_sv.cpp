@@ -1,5 +1,6 @@
 #include "gen_sv/gen_sv.hpp"
 
+#include "gen_backdoor/backdoor.hpp"
 #include "gen_sv/gen_coverage.hpp"
 #include "gen_sv/gen_model.hpp"
 
@@ -141,6 +142,50 @@ const brix_cvr_templates sv_cvr_templates = {
     "\tfunction void sample_field_values();\n\t\tif (this.can_cover(qvt_brx::FIELD_VALS)) begin\n",
     /*sfv_line*/ "\t\t\tif (%s.field_values != null) %s.field_values.sample();\n",
     /*sfv_tail*/ "\t\tend\n\tendfunction\n",
+};
+
+const brix_bkdr_templates sv_bkdr_templates = {
+    /*statements_fp*/ &brx_model_fp,
+    /*reg_class_head*/ "class brx_reg_%s",
+    /*mem_class_head*/ "class brx_mem_%s",
+    /*level_suffix*/ "_%s",
+    /*reg_class_head_tail*/ "_bkdr extends qvt_brx_reg_backdoor;\n",
+    /*mem_class_head_tail*/ "_%s_bkdr extends qvt_brx_mem_backdoor;\n",
+    /*shared_reg_class_head*/ "class %s extends qvt_brx_reg_backdoor;\n",
+    /*shared_mem_class_head*/ "class %s extends qvt_brx_mem_backdoor;\n",
+    /*member_decl*/ "\tint %s;\n",
+    /*ctor_head*/ "\n\tfunction new(",
+    /*ctor_arg*/ "int %s",
+    /*ctor_arg_sep*/ ", ",
+    /*ctor_args_end*/ ");\n",
+    /*ctor_assign*/ "\t\tthis.%s = %s;\n",
+    /*ctor_tail*/ "\tendfunction\n\n",
+    /*emit_tasks*/ emit_backdoor_tasks_in_class,
+    /*class_tail*/ "endclass\n\n\n",
+
+    /*reg_task_head*/
+    {"\tvirtual task read(output qvt_rw::status_e status, output bit "
+     "[`QVT_BRX_DATA_WIDTH-1:0] data, \n\t\t\t\t\tinput int data_id, input int scenario_id, "
+     "input int stream_id);\n",
+     "\tvirtual task write(output qvt_rw::status_e status, input bit "
+     "[`QVT_BRX_DATA_WIDTH-1:0] data, \n\t\t\t\t\tinput int data_id, input int scenario_id, "
+     "input int stream_id);\n"},
+    /*mem_task_head*/
+    {"\tvirtual task read(output qvt_rw::status_e status, input bit "
+     "[`QVT_BRX_ADDR_WIDTH-1:0] offset, \n\t\t\t\t\toutput bit [`QVT_BRX_DATA_WIDTH-1:0] data, "
+     "input int data_id,\n\t\t\t\t\tinput int scenario_id, input int stream_id);\n",
+     "\tvirtual task write(output qvt_rw::status_e status, input bit "
+     "[`QVT_BRX_ADDR_WIDTH-1:0] offset,\n\t\t\t\t\tinput bit [`QVT_BRX_DATA_WIDTH-1:0] data, "
+     "input int data_id, \n\t\t\t\t\tinput int scenario_id, input int stream_id);\n"},
+    /*task_body_open*/ "\t\t",
+    /*task_ok_tail*/
+    {"\t\tstatus = qvt_rw::IS_OK;\n\tendtask\n\n", "\t\tstatus = qvt_rw::IS_OK;\n\tendtask\n"},
+    /*task_error*/ "\t\tstatus = qvt_rw::ERROR;\n\tendtask\n",
+
+    /*inst_foreach_head*/ "foreach (this",
+    /*inst_foreach_tail*/ ".%s[i%d]) begin\n",
+    /*inst_begin*/ "begin\n",
+    /*inst_end*/ "end\n",
 };
 
 const brix_gen_templates sv_templates = {
@@ -321,6 +366,7 @@ const brix_gen_templates sv_templates = {
     /*sys_class_tail*/ "endclass : brx_sys_%s\n",
 
     /*cvr*/ &sv_cvr_templates,
+    /*bkdr*/ &sv_bkdr_templates,
 };
 
 } // namespace

@@ -4,10 +4,14 @@
 #
 #   lint_models.sh golden <source root>             the expected models of the golden cases
 #   lint_models.sh examples <source root> <brixgen> models generated from examples/
+#   lint_models.sh backdoor <source root> <brixgen> backdoor models against the designs
+#                                                   listed in backdoor/designs
 #
-# Two changes are made to a model, for what the front end lacks: $psprintf becomes
-# $sformatf, and each covergroup becomes a member of the stand-in's covergroup class, so
-# that the coverage classes and methods around the groups are still checked.
+# Three changes are made to a model, for what the front end lacks: $psprintf becomes
+# $sformatf; a `foreach` over an array inside an element of an outer array becomes a `for`
+# over the same array's $size; and each covergroup becomes a member of the stand-in's
+# covergroup class, so that the coverage classes and methods around the groups are still
+# checked.
 # WIDTH is off: models pass sized constants narrower than the library's wide arguments.
 set -u
 mode=$1
@@ -18,15 +22,19 @@ trap 'rm -rf "$work"' EXIT
 
 failed=0
 count=0
-lint() { # model file, label
-    sed 's/\$psprintf/$sformatf/g' "$1" | awk '
+lint() { # model file, label, further front end arguments
+    local model=$1 label=$2
+    shift 2
+    sed -e 's/\$psprintf/$sformatf/g' \
+        -e 's/foreach (\(this\..*\[i[0-9]*\]\..*\)\[\(i[0-9]*\)\]) begin/for (int \2 = 0; \2 < $size(\1); \2++) begin/' \
+        "$model" | awk '
         /^[ \t]*covergroup[ \t]/ { name = $2; sub(/\(.*/, "", name); print "qvt_brx_covergroup " name ";"; skip = 1; next }
         skip && /^[ \t]*endgroup/ { skip = 0; next }
         !skip' >"$work/model.sv"
     count=$((count + 1))
     if ! (cd "$work" && verilator --lint-only -Wno-WIDTH +define+QVT_BRX_DATA_WIDTH=256 \
-        -I"$here" model.sv) >"$work/log" 2>&1; then
-        echo "--- $2"
+        -I"$here" model.sv "$@") >"$work/log" 2>&1; then
+        echo "--- $label"
         cat "$work/log"
         failed=$((failed + 1))
     fi
@@ -68,6 +76,35 @@ examples)
             done
         done
     done
+    ;;
+backdoor)
+    # Each model's backdoor classes reach into its design below a top module `bd_top`,
+    # through the model's <TOP>_TOP_PATH.
+    bin=$(readlink -f "$3")
+    while read -r source design module; do
+        case $source in
+        example:*)
+            name=${source#example:}
+            run="$work/$name-backdoor"
+            cp -r "$root/examples/$name" "$run"
+            eval "set -- $(cat "$run/brixgen.args")"
+            if ! (cd "$run" && "$bin" -q -b "$@") >"$work/gen.log" 2>&1; then
+                echo "--- $name -b: generation failed"
+                cat "$work/gen.log"
+                failed=$((failed + 1))
+                continue
+            fi
+            models=("$run"/*.sv)
+            ;;
+        *) models=("$root/tests/golden/$source"/expected/files/*.sv) ;;
+        esac
+        printf 'module bd_top;\n    %s dut ();\nendmodule\n' "$module" >"$work/bd_top.sv"
+        for m in "${models[@]}"; do
+            top=$(sed -n '1s/^`ifndef BRX_//p' "$m")
+            lint "$m" "$source ($(basename "$m"))" "$here/backdoor/$design" bd_top.sv \
+                --top-module bd_top "+define+${top}_TOP_PATH=bd_top.dut"
+        done
+    done < <(grep -v '^#' "$here/backdoor/designs")
     ;;
 esac
 echo "linted $count models"

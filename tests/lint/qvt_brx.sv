@@ -44,6 +44,35 @@ package qvt_brx;
     localparam int NO_ENDIAN = 4;
 endpackage
 
+// The answer of a backdoor access.
+package qvt_rw;
+    typedef enum int {
+        IS_OK,
+        ERROR
+    } status_e;
+endpackage
+
+// Direct access to a register or a memory through its paths in the design.
+virtual class qvt_brx_reg_backdoor;
+    pure virtual task read(output qvt_rw::status_e status,
+                           output bit [`QVT_BRX_DATA_WIDTH-1:0] data, input int data_id,
+                           input int scenario_id, input int stream_id);
+    pure virtual task write(output qvt_rw::status_e status,
+                            input bit [`QVT_BRX_DATA_WIDTH-1:0] data, input int data_id,
+                            input int scenario_id, input int stream_id);
+endclass
+
+virtual class qvt_brx_mem_backdoor;
+    pure virtual task read(output qvt_rw::status_e status,
+                           input bit [`QVT_BRX_ADDR_WIDTH-1:0] offset,
+                           output bit [`QVT_BRX_DATA_WIDTH-1:0] data, input int data_id,
+                           input int scenario_id, input int stream_id);
+    pure virtual task write(output qvt_rw::status_e status,
+                            input bit [`QVT_BRX_ADDR_WIDTH-1:0] offset,
+                            input bit [`QVT_BRX_DATA_WIDTH-1:0] data, input int data_id,
+                            input int scenario_id, input int stream_id);
+endclass
+
 typedef class qvt_brx_block;
 
 // What the lint puts in place of a covergroup, which the front end cannot read: a handle
@@ -85,6 +114,10 @@ virtual class qvt_brx_mapped extends qvt_brx_node;
 endclass
 
 class qvt_brx_reg extends qvt_brx_mapped;
+    qvt_brx_reg_backdoor backdoor; // kept so that a test can reach it
+    function void set_backdoor(qvt_brx_reg_backdoor backdoor);
+        this.backdoor = backdoor;
+    endfunction
     function new(qvt_brx_block parent, string name, int n_bits,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] offset, string domain, int cvr,
                  bit [1:0] rights, bit unmapped, int coverage);
@@ -101,6 +134,10 @@ class qvt_brx_field;
 endclass
 
 class qvt_brx_mem extends qvt_brx_mapped;
+    qvt_brx_mem_backdoor backdoor;
+    function void set_backdoor(qvt_brx_mem_backdoor backdoor);
+        this.backdoor = backdoor;
+    endfunction
     function new(qvt_brx_block parent, string name, int access,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] size, int n_bits,
                  bit [`QVT_BRX_ADDR_WIDTH-1:0] base_address, string domain, int cvr,
