@@ -339,18 +339,18 @@ const brix_gen_templates hx_templates = {
     /*sys_class_tail*/ "}\n",
 
     /*cvr*/ &hx_cvr_templates,
+    /*bkdr*/ nullptr,
 };
 
 } // namespace
 
 void emit_hx_brx_model(const char* top) {
-    emit_brx_model(top, hx_templates);
     // The HDL task files of the HX backdoor are not written yet: rather than end as if the
-    // backdoor were there, the run says so once the model is complete.
+    // backdoor were there, the run says so before it writes anything.
     if (brix_gen_backdoor) {
-        brix_error("Error: Backdoor access (-b) is not yet generated for HX models: '%s' was "
-                   "written without it, and 'brx_bkdrs_%s.hxh' and 'brx_bkdrs_%s.v' were not "
-                   "written.",
-                   brix_model_file_name(top, hx_templates), top, top);
+        brix_error("Error: Backdoor access (-b) is not yet generated for HX models: "
+                   "'brx_bkdrs_%s.hxh' and 'brx_bkdrs_%s.v' cannot be written.",
+                   top, top);
     }
+    emit_brx_model(top, hx_templates);
 }
