@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the build and the tests need from Debian's packages, if missing.
 set -euo pipefail
-pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev verilator)
+pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev verilator afl++)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
