@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds and runs the whole suite twice: a release build, and a build under
-# AddressSanitizer and UndefinedBehaviorSanitizer.
+# AddressSanitizer and UndefinedBehaviorSanitizer; then fuzzes each target for a minute.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/install_deps.sh
@@ -15,5 +15,10 @@ for cfg in release asan; do
     echo "== $cfg tests"
     ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
         ctest --test-dir "$dir" -j "$jobs" --output-on-failure || status=1
+done
+# A bounded fuzzing run of each target on the fixed seed corpora; any crash or hang fails.
+echo "== fuzz smoke"
+for target in whole parse gen; do
+    bash fuzz/run.sh "$target" 60 || status=1
 done
 exit $status
