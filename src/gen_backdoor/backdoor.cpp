@@ -322,7 +322,8 @@ void emit_register_backdoor_data_stmt(brix_bkdr_dir dir, const brix_register_tag
     const std::string data = "data";
     if (path == nullptr || path->next == nullptr) {
         if (any_field_path(reg->type)) {
-            const std::string own = path != nullptr ?brix_path_with_index(path->path, index) : std::string();
+            const std::string own =
+                path != nullptr ? brix_path_with_index(path->path, index) : std::string();
             std::string fields_at;
             if (fields_implemented_in_vhdl(reg) || vhdl) {
                 vhdl = true;
@@ -447,7 +448,7 @@ void emit_backdoor_code(const bkdr_access& a, const brix_list_tag* node, int ind
     if (is_array(l.array_size) && holds(l.hdl_path, "%d")) {
         out("case (%s)\n", l.name);
         for (int i = 0; i < l.array_size; ++i) {
-            const std::string p = joined(prefix,brix_path_with_index(l.hdl_path->path, i));
+            const std::string p = joined(prefix, brix_path_with_index(l.hdl_path->path, i));
             out_tabs(indent + 1);
             out("%d: ", i);
             emit_backdoor_code(a, node->next, indent + 1, &p);

@@ -25,7 +25,8 @@ void emit_brix_hdlxmr_initial_block(const std::vector<brix_bkdr_dimension>& dims
                                     const std::string& xmr_path, const std::string& tmp_name,
                                     bool is_write) {
     if (brix_backdoor_top_path == nullptr) {
-        brix_error("Error: 'brixgen' option '-p' is mandatory for VHDL Backdoor code generation.\n");
+        brix_error(
+            "Error: 'brixgen' option '-p' is mandatory for VHDL Backdoor code generation.\n");
     }
     if (level < dims.size()) {
         const brix_bkdr_dimension& d = dims[level];
@@ -38,9 +39,10 @@ void emit_brix_hdlxmr_initial_block(const std::vector<brix_bkdr_dimension>& dims
         }
         for (int i = 0; i < d.array_size; ++i) {
             const std::string n = std::to_string(i);
-            emit_brix_hdlxmr_initial_block(
-                dims, level + 1, xmr_path.substr(0, at + 1) + n + xmr_path.substr(at + index.size() - 1),
-                tmp_name + "[" + n + "]", is_write);
+            emit_brix_hdlxmr_initial_block(dims, level + 1,
+                                           xmr_path.substr(0, at + 1) + n +
+                                               xmr_path.substr(at + index.size() - 1),
+                                           tmp_name + "[" + n + "]", is_write);
         }
         return;
     }
@@ -139,7 +141,8 @@ void emit_hdl_xmr_connection_code(const char* prefix, const char* path, uint32_t
         }
     }
     if (memory_size != 0) {
-        brix_hdlxmr_reg_defns += "[0:" + std::to_string(static_cast<int64_t>(memory_size) - 1) + "]";
+        brix_hdlxmr_reg_defns +=
+            "[0:" + std::to_string(static_cast<int64_t>(memory_size) - 1) + "]";
     }
     brix_hdlxmr_reg_defns += ";\n";
     if (prefix == nullptr && path == nullptr) {

@@ -4,31 +4,15 @@
 // `cmd` holds the arguments; `expected/` the streams, the status, under `files/` the connector
 // modules, and in `backdoor.sv` the model's backdoor classes followed by the constructor lines
 // that attach them. The rest of the model is the model generator's business.
-#include "child_process.hpp"
-#include "driver/driver.hpp"
+#include "golden_child.hpp"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <set>
-#include <sstream>
-#include <string>
-#include <unistd.h>
-#include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string slurp(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+using brix_test::slurp;
 
 std::string first_line(const fs::path& path) {
     const std::string text = slurp(path);
@@ -38,19 +22,6 @@ std::string first_line(const fs::path& path) {
 // The value of a case's setting file, or none when the file is absent.
 char* setting(const fs::path& path) {
     return fs::exists(path) ? strdup(first_line(path).c_str()) : nullptr;
-}
-
-std::vector<fs::path> cases() {
-    std::vector<fs::path> found;
-    for (const auto& group : fs::directory_iterator(BRIX_VHDL_GOLDEN_DIR)) {
-        for (const auto& c : fs::directory_iterator(group.path())) {
-            if (fs::exists(c.path() / "cmd")) {
-                found.push_back(c.path());
-            }
-        }
-    }
-    std::sort(found.begin(), found.end());
-    return found;
 }
 
 std::set<std::string> files_in(const fs::path& dir) {
@@ -100,33 +71,12 @@ TEST_P(VhdlBackdoorGolden, ClassesConnectorAndMessages) {
     const fs::path exp = dir / "expected";
     const fs::path work = fs::temp_directory_path() /
                           ("brix_vhdl_" + std::to_string(getpid()) + "_" + dir.filename().string());
-    fs::remove_all(work);
-    fs::create_directories(work);
-    for (const auto& f : fs::directory_iterator(dir)) {
-        if (f.path().extension() == ".brix") {
-            fs::copy(f.path(), work / f.path().filename());
-        }
-    }
-    std::vector<std::string> args{"brixgen"};
-    std::istringstream cmd(slurp(dir / "cmd"));
-    for (std::string w; cmd >> w;) {
-        args.push_back(w);
-    }
     char* top_path = setting(dir / "top_path");
     char* connector_path = setting(dir / "connector_path");
 
-    const brix_test::child_result run = brix_test::run_in_child([&] {
-        if (chdir(work.c_str()) != 0) {
-            _exit(99);
-        }
+    const brix_test::child_result run = brix_test::run_golden_case(dir, work, [&] {
         brix_backdoor_top_path = top_path;
         brix_vhdl_backdoor_top_path = connector_path;
-        std::vector<char*> argv;
-        for (std::string& a : args) {
-            argv.push_back(a.data());
-        }
-        argv.push_back(nullptr);
-        brix_main(static_cast<int>(args.size()), argv.data());
     });
     free(top_path);
     free(connector_path);
@@ -154,16 +104,8 @@ TEST_P(VhdlBackdoorGolden, ClassesConnectorAndMessages) {
     fs::remove_all(work);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, VhdlBackdoorGolden, ::testing::ValuesIn(cases()),
-                         [](const ::testing::TestParamInfo<fs::path>& info) {
-                             std::string name = info.param.parent_path().filename().string() + "_" +
-                                                info.param.filename().string();
-                             for (char& c : name) {
-                                 if (!isalnum(static_cast<unsigned char>(c))) {
-                                     c = '_';
-                                 }
-                             }
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Cases, VhdlBackdoorGolden,
+                         ::testing::ValuesIn(brix_test::golden_cases(BRIX_VHDL_GOLDEN_DIR)),
+                         brix_test::golden_case_name);
 
 } // namespace
