@@ -8,6 +8,7 @@
 #include "driver/driver.hpp"
 #include "gen_sv/gen_model.hpp"
 #include "gen_sv/gen_support.hpp"
+#include "gen_backdoor/vhdl.hpp"
 
 using namespace brix_gen;
 
@@ -104,16 +105,6 @@ void rewrite_array_path(int32_t array_size, brix_hdl_path_tag* path, const char*
     if (is_array(array_size) && holds(path, "[%d]")) {
         process_backdoor_hdl_path(path, name);
     }
-}
-
-// "%d" of a path replaced by the index, as the path formatted with it; -1 leaves the path.
-std::string with_index(const char* path, long long index) {
-    std::string s = path;
-    const size_t at = s.find("%d");
-    if (index >= 0 && at != std::string::npos) {
-        s.replace(at, 2, std::to_string(index));
-    }
-    return s;
 }
 
 std::string joined(const std::string* prefix, const std::string& path) {
@@ -245,13 +236,19 @@ void out_indexed_path(const char* path, long long index) {
 // The one place where an access reaches an object of a VHDL part of the design. Such an
 // object is reached through a register of the connector module, named from `prefix` and
 // `path`, `width` bits wide, over `memory_size` words for a memory (whose name keeps a
-// fixed index). The connector is not generated yet: a vhdl_path together with -b is
-// refused while the description is read, so that no run arrives here.
-void emit_vhdl_backdoor_access(brix_bkdr_dir /*dir*/, const std::string& /*data*/,
-                               const std::string& /*prefix*/, const char* /*path*/,
-                               uint32_t /*width*/, long long /*index*/, uint64_t /*memory_size*/,
-                               bool /*is_memory*/) {
-    brix_error("Error: 'brixgen' option '-p' is mandatory for VHDL Backdoor code generation.\n");
+// fixed index).
+void emit_vhdl_backdoor_access(brix_bkdr_dir dir, const std::string& data,
+                               const std::string& prefix, const char* path, uint32_t width,
+                               long long index, uint64_t memory_size, bool is_memory) {
+    const bool write = !is_read(dir);
+    const char* at = prefix.empty() ? nullptr : prefix.c_str();
+    emit_hdl_xmr_connection_code(at, path, width, index, static_cast<uint32_t>(memory_size), write,
+                                 is_memory);
+    std::string name;
+    create_tmpregname(name, at, path, index, write, true, is_memory);
+    open_assignment(dir, data);
+    out("`%s_VHDL_BKDR_CONNECTOR.%s%s", uc_top, name, is_memory ? "[offset]" : "");
+    close_assignment(dir, data);
 }
 
 // The field-by-field access. Bits without a path read as zero; read-only fields are not
@@ -325,7 +322,8 @@ void emit_register_backdoor_data_stmt(brix_bkdr_dir dir, const brix_register_tag
     const std::string data = "data";
     if (path == nullptr || path->next == nullptr) {
         if (any_field_path(reg->type)) {
-            const std::string own = path != nullptr ? with_index(path->path, index) : std::string();
+            const std::string own =
+                path != nullptr ? brix_path_with_index(path->path, index) : std::string();
             std::string fields_at;
             if (fields_implemented_in_vhdl(reg) || vhdl) {
                 vhdl = true;
@@ -450,7 +448,7 @@ void emit_backdoor_code(const bkdr_access& a, const brix_list_tag* node, int ind
     if (is_array(l.array_size) && holds(l.hdl_path, "%d")) {
         out("case (%s)\n", l.name);
         for (int i = 0; i < l.array_size; ++i) {
-            const std::string p = joined(prefix, with_index(l.hdl_path->path, i));
+            const std::string p = joined(prefix, brix_path_with_index(l.hdl_path->path, i));
             out_tabs(indent + 1);
             out("%d: ", i);
             emit_backdoor_code(a, node->next, indent + 1, &p);
@@ -844,17 +842,23 @@ void process_backdoor_hdl_path(brix_hdl_path_tag* list, const char* name) {
     }
 }
 
-bool has_bkdr_array_ancestor(const brix_list_tag* hierarchy) {
+std::vector<brix_bkdr_dimension> backdoor_variable_dimensions(const brix_list_tag* hierarchy) {
+    std::vector<brix_bkdr_dimension> dims;
     for (const brix_list_tag* n = hierarchy; n != nullptr; n = n->next) {
         if (n->tag != BRIX_SYSTEM && n->tag != BRIX_BLOCK && n->tag != BRIX_REGFILE &&
             n->tag != BRIX_REGISTER) {
             continue;
         }
-        if (has_variable_index(level_of(n))) {
-            return true;
+        const bkdr_level l = level_of(n);
+        if (has_variable_index(l)) {
+            dims.push_back({l.name, l.array_size});
         }
     }
-    return false;
+    return dims;
+}
+
+bool has_bkdr_array_ancestor(const brix_list_tag* hierarchy) {
+    return !backdoor_variable_dimensions(hierarchy).empty();
 }
 
 bool fields_implemented_in_vhdl(const brix_register_tag* reg) {
@@ -910,7 +914,3 @@ std::string get_hdl_path_with_mem_bkdr_wrkaround(const char* name, const brix_hd
     }
     return result;
 }
-
-// The connector's registers are declared as VHDL objects are reached, and no access reaches
-// one yet (emit_vhdl_backdoor_access): with nothing declared there is no file to write.
-void emit_vhdl_bkdr_connection_module() {}

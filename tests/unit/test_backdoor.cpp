@@ -1,7 +1,8 @@
-// Backdoor pieces that a run cannot reach yet: a vhdl_path together with -b is refused
-// while the description is read, but the expansion of arrays for such memories and the
-// recovery of their paths stand ready for the connector.
+// Backdoor pieces that a whole run does not show: the recovery of an expanded level's path,
+// the names of connector registers, and the connector without a design top path, which the
+// parser refuses before a generator could see it.
 #include "gen_backdoor/backdoor.hpp"
+#include "gen_backdoor/vhdl.hpp"
 #include "gen_sv_builder.hpp"
 
 using namespace brix_build;
@@ -26,6 +27,27 @@ TEST_F(backdoor, expanded_element_gets_its_index_back_in_brackets) {
               run.err);
 }
 
+TEST_F(backdoor, connector_register_names) {
+    std::string name;
+    EXPECT_TRUE(emit_vhdl_path("a.b[2].c", name, false));
+    EXPECT_EQ("a__b__c", name);
+    name.clear();
+    EXPECT_TRUE(emit_vhdl_path("a.b[2].c", name, true));
+    EXPECT_EQ("a__bX2X__c", name);
+    name.clear();
+    EXPECT_FALSE(emit_vhdl_path("u3", name, false));
+    // "%d" after a letter takes the index; at the start or inside brackets it stays.
+    name.clear();
+    EXPECT_FALSE(create_tmpregname(name, "x.y", "u%d", 3, true, true, false));
+    EXPECT_EQ("__x__y__u3__op", name);
+    name.clear();
+    EXPECT_FALSE(create_tmpregname(name, nullptr, "%d_q", 3, false, true, false));
+    EXPECT_EQ("__%d_q__ip", name);
+    name.clear();
+    EXPECT_TRUE(create_tmpregname(name, nullptr, "m[%d]", 3, false, true, true));
+    EXPECT_EQ("__mX%dX__ip", name);
+}
+
 TEST_F(backdoor, vhdl_memory_below_run_time_index_gets_a_class_per_element) {
     brix_memory_tag* m = static_cast<brix_memory_tag*>(mem("m", mem_type("ram", 8, 32)).second);
     m->hdl_path = record(initialize_hdl_path_defaults);
@@ -41,7 +63,7 @@ TEST_F(backdoor, vhdl_memory_below_run_time_index_gets_a_class_per_element) {
     const brix_test::child_result run = generate_in_child("top");
     brix_gen_backdoor = 0;
     // The first element's class is begun; its access then needs the connector, which
-    // cannot be made without the design's top path.
+    // cannot be made without the design's top path (brix_backdoor_top_path).
     EXPECT_EQ(1, run.status);
     EXPECT_EQ("Error: 'brixgen' option '-p' is mandatory for VHDL Backdoor code generation.\n\n",
               run.err);

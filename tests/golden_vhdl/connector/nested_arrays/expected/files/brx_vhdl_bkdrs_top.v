@@ -1,0 +1,39 @@
+module brx_top_vhdl_bkdr_connector;
+	reg[7:0] __u_sub__u_blk__rf__r_q__ip[0:1][0:1][0:1];
+	reg[7:0] __u_sub__u_blk__rf__r_q__op[0:1][0:1][0:1];
+	reg[15:0] __u_subX0X__u_blkX0X__ram_q__ip[0:3];
+	reg[15:0] __u_subX0X__u_blkX0X__ram_q__op[0:3];
+	reg[15:0] __u_subX0X__u_blkX1X__ram_q__ip[0:3];
+	reg[15:0] __u_subX0X__u_blkX1X__ram_q__op[0:3];
+	reg[15:0] __u_subX1X__u_blkX0X__ram_q__ip[0:3];
+	reg[15:0] __u_subX1X__u_blkX0X__ram_q__op[0:3];
+	reg[15:0] __u_subX1X__u_blkX1X__ram_q__ip[0:3];
+	reg[15:0] __u_subX1X__u_blkX1X__ram_q__op[0:3];
+
+	initial begin
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[0].rf[0].r_q", "__u_sub__u_blk__rf__r_q__ip[0][0][0]");
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[0].rf[1].r_q", "__u_sub__u_blk__rf__r_q__ip[0][0][1]");
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[1].rf[0].r_q", "__u_sub__u_blk__rf__r_q__ip[0][1][0]");
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[1].rf[1].r_q", "__u_sub__u_blk__rf__r_q__ip[0][1][1]");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[0].rf[0].r_q", "__u_sub__u_blk__rf__r_q__ip[1][0][0]");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[0].rf[1].r_q", "__u_sub__u_blk__rf__r_q__ip[1][0][1]");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[1].rf[0].r_q", "__u_sub__u_blk__rf__r_q__ip[1][1][0]");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[1].rf[1].r_q", "__u_sub__u_blk__rf__r_q__ip[1][1][1]");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[0][0][0]", "tb.dut.u_sub[0].u_blk[0].rf[0].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[0][0][1]", "tb.dut.u_sub[0].u_blk[0].rf[1].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[0][1][0]", "tb.dut.u_sub[0].u_blk[1].rf[0].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[0][1][1]", "tb.dut.u_sub[0].u_blk[1].rf[1].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[1][0][0]", "tb.dut.u_sub[1].u_blk[0].rf[0].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[1][0][1]", "tb.dut.u_sub[1].u_blk[0].rf[1].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[1][1][0]", "tb.dut.u_sub[1].u_blk[1].rf[0].r_q");
+		$hdl_xmr("__u_sub__u_blk__rf__r_q__op[1][1][1]", "tb.dut.u_sub[1].u_blk[1].rf[1].r_q");
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[0].ram_q", "__u_subX0X__u_blkX0X__ram_q__ip");
+		$hdl_xmr("__u_subX0X__u_blkX0X__ram_q__op", "tb.dut.u_sub[0].u_blk[0].ram_q");
+		$hdl_xmr("tb.dut.u_sub[0].u_blk[1].ram_q", "__u_subX0X__u_blkX1X__ram_q__ip");
+		$hdl_xmr("__u_subX0X__u_blkX1X__ram_q__op", "tb.dut.u_sub[0].u_blk[1].ram_q");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[0].ram_q", "__u_subX1X__u_blkX0X__ram_q__ip");
+		$hdl_xmr("__u_subX1X__u_blkX0X__ram_q__op", "tb.dut.u_sub[1].u_blk[0].ram_q");
+		$hdl_xmr("tb.dut.u_sub[1].u_blk[1].ram_q", "__u_subX1X__u_blkX1X__ram_q__ip");
+		$hdl_xmr("__u_subX1X__u_blkX1X__ram_q__op", "tb.dut.u_sub[1].u_blk[1].ram_q");
+	end
+endmodule

@@ -1,0 +1,111 @@
+// Golden cases of the backdoor into VHDL parts of a design, tests/golden_vhdl/<group>/<case>/.
+// The command line takes no design top path, so each case runs brix_main in a child, in a
+// working folder of its own, with the paths of its `top_path` and `connector_path` files set.
+// `cmd` holds the arguments; `expected/` the streams, the status, under `files/` the connector
+// modules, and in `backdoor.sv` the model's backdoor classes followed by the constructor lines
+// that attach them. The rest of the model is the model generator's business.
+#include "golden_child.hpp"
+
+#include <cstring>
+#include <set>
+
+namespace {
+
+namespace fs = std::filesystem;
+using brix_test::slurp;
+
+std::string first_line(const fs::path& path) {
+    const std::string text = slurp(path);
+    return text.substr(0, text.find('\n'));
+}
+
+// The value of a case's setting file, or none when the file is absent.
+char* setting(const fs::path& path) {
+    return fs::exists(path) ? strdup(first_line(path).c_str()) : nullptr;
+}
+
+std::set<std::string> files_in(const fs::path& dir) {
+    std::set<std::string> names;
+    if (fs::exists(dir)) {
+        for (const auto& f : fs::directory_iterator(dir)) {
+            names.insert(f.path().filename().string());
+        }
+    }
+    return names;
+}
+
+// The backdoor classes of a model, then the lines of the top's constructor below the
+// backdoor banner.
+std::string backdoor_text(const std::string& model) {
+    std::istringstream in(model);
+    std::string classes;
+    std::string ctor;
+    bool in_class = false;
+    bool in_ctor = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line.rfind("class brx_", 0) == 0 && line.find("_bkdr extends") != std::string::npos) {
+            in_class = true;
+        }
+        if (in_class) {
+            classes += line + "\n";
+            in_class = line != "endclass";
+        }
+        if (line == "\t\tthis.Xlock_modelX();") {
+            in_ctor = false;
+        }
+        if (in_ctor) {
+            ctor += line + "\n";
+        }
+        if (line == "\t\t// Setting up backdoor access...") {
+            in_ctor = true;
+            std::getline(in, line); // the banner's closing "//"
+        }
+    }
+    return classes + ctor;
+}
+
+class VhdlBackdoorGolden : public ::testing::TestWithParam<fs::path> {};
+
+TEST_P(VhdlBackdoorGolden, ClassesConnectorAndMessages) {
+    const fs::path dir = GetParam();
+    const fs::path exp = dir / "expected";
+    const fs::path work = fs::temp_directory_path() /
+                          ("brix_vhdl_" + std::to_string(getpid()) + "_" + dir.filename().string());
+    char* top_path = setting(dir / "top_path");
+    char* connector_path = setting(dir / "connector_path");
+
+    const brix_test::child_result run = brix_test::run_golden_case(dir, work, [&] {
+        brix_backdoor_top_path = top_path;
+        brix_vhdl_backdoor_top_path = connector_path;
+    });
+    free(top_path);
+    free(connector_path);
+
+    EXPECT_EQ(run.out, slurp(exp / "stdout"));
+    EXPECT_EQ(run.err, slurp(exp / "stderr"));
+    EXPECT_EQ(std::to_string(run.status) + "\n", slurp(exp / "status"));
+    // Every file of the run: the model, and the connectors in full.
+    std::set<std::string> made = files_in(work);
+    for (const auto& f : fs::directory_iterator(dir)) {
+        made.erase(f.path().filename().string());
+    }
+    const std::set<std::string> connectors = files_in(exp / "files");
+    std::set<std::string> want = connectors;
+    // `model` names the model file that a run leaves, whose backdoor is in `backdoor.sv`.
+    if (fs::exists(exp / "model")) {
+        const std::string model = first_line(exp / "model");
+        want.insert(model);
+        EXPECT_EQ(backdoor_text(slurp(work / model)), slurp(exp / "backdoor.sv"));
+    }
+    EXPECT_EQ(made, want);
+    for (const std::string& f : connectors) {
+        EXPECT_EQ(slurp(work / f), slurp(exp / "files" / f)) << f;
+    }
+    fs::remove_all(work);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, VhdlBackdoorGolden,
+                         ::testing::ValuesIn(brix_test::golden_cases(BRIX_VHDL_GOLDEN_DIR)),
+                         brix_test::golden_case_name);
+
+} // namespace
