@@ -204,6 +204,7 @@ endclass : brx_reg_stat
 class brx_block_tb extends qvt_brx_block;
 	rand brx_regfile_bank bk[2];
 	rand brx_mem_buf m;
+	rand brx_mem_buf nomem;
 	rand brx_vreg_desc d;
 	rand brx_reg_stat st;
 	rand qvt_brx_vfield d_addr;
@@ -222,6 +223,7 @@ class brx_block_tb extends qvt_brx_block;
 			this.bk[J] = new(this, $psprintf("bk[%0d]",J), `QVT_BRX_ADDR_WIDTH'h0+J*`QVT_BRX_ADDR_WIDTH'h10, "", cover_on);
 		end
 		this.m = new(this, "m", `QVT_BRX_ADDR_WIDTH'h100, "", cover_on, 2'b11, 0);
+		this.nomem = new(this, "nomem", `QVT_BRX_ADDR_WIDTH'h200, "", cover_on, 2'b11, 0);
 		this.d = new(this, "d", 32, `QVT_BRX_ADDR_WIDTH'h0, this.m, 4, 1);
 		this.d_addr = this.d.addr;
 		this.addr = this.d.addr;
