@@ -30,6 +30,9 @@ std::string uc_top;
 std::unordered_set<std::string> all_blocks, all_systems;
 std::unordered_map<std::string, uint32_t> all_block_sizes, all_system_sizes;
 
+// The header counts offsets in words of 32 bits that wrap, as the run-time interface does.
+using c_offset_walk = brix_basic_offset_walk<uint32_t>;
+
 // Uses of each name among the components of a block, fields included.
 using name_counts = std::unordered_map<std::string, int>;
 
@@ -298,7 +301,7 @@ const addr_macro subsystem_addr{"Sub-System", "System", "sys", "qvt_brx_sys__get
 
 void emit_register(const brix_register_tag* reg, c_buffers& b, const std::string& suffix,
                    const brix_block_domain_tag* domain, const name_counts& names,
-                   brix_offset_walk& walk) {
+                   c_offset_walk& walk) {
     const uint32_t d = static_cast<uint32_t>(domain->bytes);
     const uint32_t words = (static_cast<uint32_t>(reg->type->bytes) - 1) / d + 1;
     emit_size_macro(b, "Register", reg->name, suffix, uint64_t{words} * d);
@@ -317,7 +320,7 @@ void emit_register(const brix_register_tag* reg, c_buffers& b, const std::string
 }
 
 void emit_memory(const brix_memory_tag* mem, c_buffers& b, const std::string& suffix,
-                 const brix_block_domain_tag* domain, brix_offset_walk& walk) {
+                 const brix_block_domain_tag* domain, c_offset_walk& walk) {
     const brix_memory_type_tag* m = mem->type;
     const uint32_t d = static_cast<uint32_t>(domain->bytes);
     const uint32_t words = ((m->bits - 1) / 8) / d + 1;
@@ -392,7 +395,7 @@ void emit_block(const brix_block_type_tag* type, c_buffers& b, const char* domai
             if (!visits(d->name, domain)) {
                 return;
             }
-            brix_offset_walk walk;
+            c_offset_walk walk;
             for (const brix_list_tag* c = d->components; c != nullptr; c = c->next) {
                 switch (c->tag) {
                 case BRIX_REGISTER:
@@ -446,7 +449,7 @@ uint32_t instance_size(const Instance* inst, const std::unordered_map<std::strin
 
 template <class Instance>
 void emit_system_addr(const Instance* inst, c_buffers& b, const addr_macro& m,
-                      const std::string& parent, brix_offset_walk& walk, uint32_t size) {
+                      const std::string& parent, c_offset_walk& walk, uint32_t size) {
     walk.place(inst->offset, true);
     const bool array = is_array(inst->array_size);
     const std::string stride =
@@ -468,7 +471,7 @@ void emit_system_level_macros(const brix_system_type_tag* type, c_buffers& b, co
                 return;
             }
             const uint32_t u = static_cast<uint32_t>(d->bytes);
-            brix_offset_walk walk;
+            c_offset_walk walk;
             for (const brix_list_tag* c = d->components; c != nullptr; c = c->next) {
                 if (c->tag == BRIX_BLOCK) {
                     const auto* blk = static_cast<const brix_block_tag*>(c->data);

@@ -920,26 +920,6 @@ std::string brix_class_suffix(const char* scope_prefix, const char* name) {
     return s + (name != nullptr ? name : "");
 }
 
-void brix_offset_walk::place(const char* offset, bool honour_none) {
-    saved = 0;
-    unmapped = honour_none && is_named(offset, "none");
-    if (offset == nullptr || unmapped) {
-        return;
-    }
-    const uint64_t v = to_dec(offset);
-    if (v < off) {
-        saved = off;
-    }
-    off = v;
-}
-
-void brix_offset_walk::advance(uint64_t span) {
-    if (!unmapped) {
-        off = saved == 0 ? off + span : std::max(off + span, saved);
-    }
-    size = std::max(size, off);
-}
-
 brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right) {
     brix_field_layout layout{0, {}};
     for_each_field(fields, [&](const brix_field_tag* f) {

@@ -3,11 +3,14 @@
 // written, in which order and with which numbers, and the table how it is spelled.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
+#include "driver/diag.hpp"
 #include "driver/maps.hpp"
 #include "parser/model.hpp"
 
@@ -189,14 +192,33 @@ struct brix_field_layout {
 };
 brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right);
 
-// The position of the next component in a list, and the size that the list spans.
-struct brix_offset_walk {
-    uint64_t off = 0;
-    uint64_t size = 0;
-    uint64_t saved = 0;
+// The position of the next component in a list, and the size that the list spans, counted
+// in `Pos`: the models count in 64 bits, the C interface in 32 bits that wrap.
+template <class Pos> struct brix_basic_offset_walk {
+    Pos off = 0;
+    Pos size = 0;
+    Pos saved = 0;
     bool unmapped = false;
     // Moves to a written offset; `none` leaves the position and takes no space when
-    // `honour_none` is set.
-    void place(const char* offset, bool honour_none);
-    void advance(uint64_t span);
+    // `honour_none` is set. Going backwards keeps the old position, to resume from.
+    void place(const char* offset, bool honour_none) {
+        saved = 0;
+        unmapped = honour_none && offset != nullptr && strcmp(offset, "none") == 0;
+        if (offset == nullptr || unmapped) {
+            return;
+        }
+        const Pos v = static_cast<Pos>(to_dec(offset));
+        if (v < off) {
+            saved = off;
+        }
+        off = v;
+    }
+    void advance(uint64_t span) {
+        if (!unmapped) {
+            const Pos next = static_cast<Pos>(off + span);
+            off = saved == 0 ? next : std::max(next, saved);
+        }
+        size = std::max(size, off);
+    }
 };
+using brix_offset_walk = brix_basic_offset_walk<uint64_t>;

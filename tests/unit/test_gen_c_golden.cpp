@@ -5,6 +5,8 @@
 // headers. The model file written beside a header is the model generators' business.
 #include "golden_child.hpp"
 
+#include "gen_sv/gen_model.hpp"
+
 #include <cstring>
 #include <set>
 
@@ -58,3 +60,26 @@ INSTANTIATE_TEST_SUITE_P(Cases, CInterfaceGolden,
                          brix_test::golden_case_name);
 
 } // namespace
+
+// The header's offsets are words of 32 bits: a walk past 4G wraps, and a later offset is
+// compared with the wrapped position, not with the model's 64-bit one.
+TEST(COffsetWalk, WrapsAtFourGigawords) {
+    brix_basic_offset_walk<uint32_t> c;
+    brix_offset_walk model;
+    const auto step = [&](const char* offset, uint64_t span) {
+        c.place(offset, true);
+        model.place(offset, true);
+        const std::pair<uint64_t, uint64_t> at{c.off, model.off};
+        c.advance(span);
+        model.advance(span);
+        return at;
+    };
+    step("0x10", 1);
+    EXPECT_EQ(step(nullptr, 4ull << 30), (std::pair<uint64_t, uint64_t>{0x11, 0x11}));
+    step("0x8", 1); // backwards: the walk resumes behind the memory
+    EXPECT_EQ(c.off, 0x11u);
+    EXPECT_EQ(model.off, 0x100000011u);
+    step("0x20", 1);
+    EXPECT_EQ(step(nullptr, 1), (std::pair<uint64_t, uint64_t>{0x21, 0x100000011}));
+    EXPECT_EQ(c.size, 0x22u);
+}
