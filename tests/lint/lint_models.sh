@@ -6,6 +6,9 @@
 #   lint_models.sh examples <source root> <brixgen> models generated from examples/
 #   lint_models.sh backdoor <source root> <brixgen> backdoor models against the designs
 #                                                   listed in backdoor/designs
+#   lint_models.sh hx_backdoor <source root> <brixgen>
+#                                                   the Verilog task modules of HX backdoors
+#                                                   against the designs in backdoor/hx_designs
 #
 # Three changes are made to a model, for what the front end lacks: $psprintf becomes
 # $sformatf; a `foreach` over an array inside an element of an outer array becomes a `for`
@@ -105,6 +108,37 @@ backdoor)
                 --top-module bd_top "+define+${top}_TOP_PATH=bd_top.dut"
         done
     done < <(grep -v '^#' "$here/backdoor/designs")
+    ;;
+hx_backdoor)
+    # Each module of tasks stands beside the design below a top module `bd_top` and reaches
+    # into it through <TOP>_TOP_PATH; `bd_top` holds the module so that it is elaborated.
+    bin=$(readlink -f "$3")
+    while read -r source design module; do
+        case $source in
+        example:*)
+            name=${source#example:}
+            run="$work/$name-hx-backdoor"
+            cp -r "$root/examples/$name" "$run"
+            eval "set -- $(sed 's/-l sv/-l hx/' "$run/brixgen.args")"
+            if ! (cd "$run" && "$bin" -q -b "$@") >"$work/gen.log" 2>&1; then
+                echo "--- $name -l hx -b: generation failed"
+                cat "$work/gen.log"
+                failed=$((failed + 1))
+                continue
+            fi
+            tasks=("$run"/brx_bkdrs_*.v)
+            ;;
+        *) tasks=("$root/tests/golden/$source"/expected/files/brx_bkdrs_*.v) ;;
+        esac
+        for v in "${tasks[@]}"; do
+            tasks_module=$(sed -n 's/^module \(qvt_brx_bkdrs_[A-Za-z0-9_]*\);$/\1/p' "$v")
+            top=${tasks_module#qvt_brx_bkdrs_}
+            printf 'module bd_top;\n    %s dut ();\n    %s tasks ();\nendmodule\n' \
+                "$module" "$tasks_module" >"$work/bd_top.sv"
+            lint "$v" "$source ($(basename "$v"))" "$here/backdoor/$design" bd_top.sv \
+                --top-module bd_top "+define+${top^^}_TOP_PATH=bd_top.dut"
+        done
+    done < <(grep -v '^#' "$here/backdoor/hx_designs")
     ;;
 esac
 echo "linted $count models"
