@@ -54,22 +54,21 @@ const char* const task_suffix[2] = {"_rd", "_wr"};
 // A write's declaration stands one line below the read's.
 const char* const hxh_task_lead[2] = {"", "\n"};
 
+// The comments that head an object's tasks; the declarations' comment of a memory has a
+// blank behind the name.
 void emit_hx_backdoor_tasks_head(const brix_bkdr_object& o) {
-    if (o.reg != nullptr) {
-        brix_emit_to(brx_bkdrs_hxh_fp, "\n\n//\n// hdl_task declarations for register '%s'\n//\n",
-                     o.reg->name);
-        brix_emit_to(brx_bkdrs_v_fp,
-                     "\n\n\t//\n\t// Backdoor read/write (Verilog) implementation for register "
-                     "'%s'\n\t//\n",
-                     o.reg->name);
-    } else {
-        brix_emit_to(brx_bkdrs_hxh_fp, "\n\n//\n// hdl_task declarations for memory '%s' \n//\n",
-                     o.mem->name);
-        brix_emit_to(brx_bkdrs_v_fp,
-                     "\n\n\t//\n\t// Backdoor read/write (Verilog) implementation for memory "
-                     "'%s'\n\t//\n",
-                     o.mem->name);
-    }
+    const bool reg = o.reg != nullptr;
+    const char* name = reg ? o.reg->name : o.mem->name;
+    brix_emit_to(brx_bkdrs_hxh_fp,
+                 reg ? "\n\n//\n// hdl_task declarations for register '%s'\n//\n"
+                     : "\n\n//\n// hdl_task declarations for memory '%s' \n//\n",
+                 name);
+    brix_emit_to(brx_bkdrs_v_fp,
+                 reg ? "\n\n\t//\n\t// Backdoor read/write (Verilog) implementation for register "
+                       "'%s'\n\t//\n"
+                     : "\n\n\t//\n\t// Backdoor read/write (Verilog) implementation for memory "
+                       "'%s'\n\t//\n",
+                 name);
 }
 
 // The method calls its task by the name of the class and passes the class's indices; the
