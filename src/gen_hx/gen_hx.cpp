@@ -1,7 +1,7 @@
 #include "gen_hx/gen_hx.hpp"
 
-#include "gen_sv/gen_coverage.hpp"
 #include "gen_hx/hx_backdoor.hpp"
+#include "gen_sv/gen_coverage.hpp"
 #include "gen_sv/gen_model.hpp"
 
 // The HX model is the same walk as the SystemVerilog one with these texts. Where HX
