@@ -83,6 +83,10 @@ template <class... A> void brix_emit(const char* fmt, const A&... a) {
     const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
     brix_vemit(fmt, brix_args{v.data(), v.size()});
 }
+template <class... A> void brix_emit_to(FILE* out, const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vemit_to(out, fmt, brix_args{v.data(), v.size()});
+}
 
 // Bison's own error entry.
 [[noreturn]] void yyerror(const char* message);

@@ -468,6 +468,26 @@ void emit_backdoor_code(const bkdr_access& a, const brix_list_tag* node, int ind
 
 // ---- Classes ------------------------------------------------------------------------
 
+// The read and write methods; `writable` is false when the write can only answer an error.
+void emit_backdoor_tasks(const brix_bkdr_object& o, bool writable) {
+    const brix_bkdr_templates& t = T();
+    if (t.emit_tasks_head != nullptr) {
+        t.emit_tasks_head(o);
+    }
+    const char* const* heads = o.reg != nullptr ? t.reg_task_head : t.mem_task_head;
+    for (const brix_bkdr_dir dir : {brix_bkdr_dir::read, brix_bkdr_dir::write}) {
+        const int d = static_cast<int>(dir);
+        brix_emit(heads[d]);
+        if (!is_read(dir) && !writable) {
+            brix_emit(t.task_error);
+            continue;
+        }
+        brix_emit(t.task_body_open);
+        t.emit_task_body(o, dir);
+        brix_emit(t.task_ok_tail[d]);
+    }
+}
+
 void emit_backdoor_class(const brix_bkdr_object& o) {
     const brix_bkdr_templates& t = T();
     if (is_shared(o)) {
@@ -505,7 +525,7 @@ void emit_backdoor_class(const brix_bkdr_object& o) {
         }
         brix_emit(t.ctor_tail);
     }
-    t.emit_tasks(o, is_writable(o));
+    emit_backdoor_tasks(o, is_writable(o));
     brix_emit(t.class_tail);
 }
 
@@ -720,28 +740,16 @@ void walk_system(brix_system_tag* s, const bkdr_pass& pass) {
 
 } // namespace
 
-void emit_backdoor_tasks_in_class(const brix_bkdr_object& o, bool writable) {
-    const brix_bkdr_templates& t = T();
-    const char* const* heads = o.reg != nullptr ? t.reg_task_head : t.mem_task_head;
-    for (const brix_bkdr_dir dir : {brix_bkdr_dir::read, brix_bkdr_dir::write}) {
-        const int d = static_cast<int>(dir);
-        brix_emit(heads[d]);
-        if (!is_read(dir) && !writable) {
-            brix_emit(t.task_error);
-            continue;
-        }
-        brix_emit(t.task_body_open);
-        emit_backdoor_access_code(o, dir);
-        brix_emit(t.task_ok_tail[d]);
-    }
-}
-
 void emit_backdoor_access_code(const brix_bkdr_object& o, brix_bkdr_dir dir) {
     emit_backdoor_code({o, dir, false}, brix_hierarchy, 2, nullptr);
 }
 
 std::vector<const char*> backdoor_index_members(const brix_bkdr_object& o) {
     return index_members(o);
+}
+
+std::string backdoor_class_name(const brix_bkdr_object& o) {
+    return class_name(o);
 }
 
 void emit_register_backdoor(const brix_register_tag* reg) {

@@ -50,17 +50,21 @@ struct brix_bkdr_templates {
     const char* ctor_args_end;
     const char* ctor_assign; // member, member
     const char* ctor_tail;
-    // Writes the read and write tasks of a class; `writable` is false when the write can
-    // only answer an error.
-    void (*emit_tasks)(const brix_bkdr_object& obj, bool writable);
     const char* class_tail;
 
-    // Texts of the tasks written inside the class (emit_backdoor_tasks_in_class).
+    // The read and write methods of a class, indexed by brix_bkdr_dir. A method is its
+    // head, then task_body_open, the body and task_ok_tail; a write that can only fail is
+    // its head and task_error.
     const char* reg_task_head[2];
     const char* mem_task_head[2];
     const char* task_body_open;
     const char* task_ok_tail[2];
     const char* task_error;
+    // Written ahead of the methods; null: nothing.
+    void (*emit_tasks_head)(const brix_bkdr_object& obj);
+    // The body of a method: the access statements themselves (emit_backdoor_access_code),
+    // or the call of a task of the language's side files that holds them.
+    void (*emit_task_body)(const brix_bkdr_object& obj, brix_bkdr_dir dir);
 
     // Constructor lines that attach a class to its object.
     const char* inst_foreach_head;
@@ -69,13 +73,13 @@ struct brix_bkdr_templates {
     const char* inst_end;
 };
 
-// The tasks of a class written inside the class itself, with the access statements.
-void emit_backdoor_tasks_in_class(const brix_bkdr_object& obj, bool writable);
 // The body of one task, from the head of brix_hierarchy down, to the statement stream; the
 // caller has indented its first line. A language whose tasks live apart calls this.
 void emit_backdoor_access_code(const brix_bkdr_object& obj, brix_bkdr_dir dir);
 // The array levels above the object that its class keeps an index for, outermost first.
 std::vector<const char*> backdoor_index_members(const brix_bkdr_object& obj);
+// The name of the object's class, from brix_top and the levels of brix_hierarchy.
+std::string backdoor_class_name(const brix_bkdr_object& obj);
 
 // Classes, written ahead of the classes of the top's components.
 void emit_register_backdoor(const brix_register_tag* reg);

@@ -1,9 +1,6 @@
 #include "gen_hx/gen_hx.hpp"
 
-#include <string>
-
-#include "driver/diag.hpp"
-#include "driver/driver.hpp"
+#include "gen_hx/hx_backdoor.hpp"
 #include "gen_sv/gen_coverage.hpp"
 #include "gen_sv/gen_model.hpp"
 
@@ -151,23 +148,13 @@ const brix_cvr_templates hx_cvr_templates = {
     /*sfv_tail*/ "\t\t}\n\t}\n",
 };
 
-// With -b the model includes the declarations of the HDL tasks through which its backdoor
-// reaches the design, and needs the data width for their arguments.
-void emit_hx_backdoor_file_head() {
-    const std::string header = std::string("brx_bkdrs_") + brix_top + ".hxh";
-    brix_emit("#ifndef BRX_%s\n#define BRX_%s\n\n#ifndef MARSDALE_HXC\n#include "
-              "\"qvt_brx.hxh\"\n#endif\n\n#include \"%s\"\n\n#ifndef QVT_BRX_DATA_WIDTH\n#define "
-              "QVT_BRX_DATA_WIDTH 64\n#endif\n\n#ifndef QVT_BRX_ADDR_WIDTH\n#define "
-              "QVT_BRX_ADDR_WIDTH 64\n#endif\n\n",
-              uc_top, uc_top, header);
-}
-
 const brix_gen_templates hx_templates = {
     /*file_suffix*/ ".hxs",
     /*file_head*/
     "#ifndef BRX_%s\n#define BRX_%s\n\n#ifndef MARSDALE_HXC\n#include \"qvt_brx.hxh\"\n#endif\n\n"
     "#ifndef QVT_BRX_ADDR_WIDTH\n#define QVT_BRX_ADDR_WIDTH 64\n#endif\n\n",
     /*backdoor_file_head*/ emit_hx_backdoor_file_head,
+    /*backdoor_file_tail*/ emit_hx_backdoor_file_tail,
     /*file_tail*/ "#endif\n",
     /*width_warning*/
     "Warning: This BRX model requires QVT_BRX_DATA_WIDTH macro to be defined to %d or "
@@ -339,18 +326,11 @@ const brix_gen_templates hx_templates = {
     /*sys_class_tail*/ "}\n",
 
     /*cvr*/ &hx_cvr_templates,
-    /*bkdr*/ nullptr,
+    /*bkdr*/ &hx_bkdr_templates,
 };
 
 } // namespace
 
 void emit_hx_brx_model(const char* top) {
-    // The HDL task files of the HX backdoor are not written yet: rather than end as if the
-    // backdoor were there, the run says so before it writes anything.
-    if (brix_gen_backdoor) {
-        brix_error("Error: Backdoor access (-b) is not yet generated for HX models: "
-                   "'brx_bkdrs_%s.hxh' and 'brx_bkdrs_%s.v' cannot be written.",
-                   top, top);
-    }
     emit_brx_model(top, hx_templates);
 }

@@ -1246,6 +1246,9 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     }
     brix_emit(lang.file_tail);
     if (brix_gen_backdoor) {
+        if (lang.backdoor_file_tail != nullptr) {
+            lang.backdoor_file_tail();
+        }
         emit_vhdl_bkdr_connection_module();
     }
     const uint64_t width = std::max<uint64_t>(

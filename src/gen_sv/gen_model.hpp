@@ -28,6 +28,8 @@ struct brix_gen_templates {
     // With -b, writes the model's head in place of file_head, for a language whose backdoor
     // reaches the design through side files of its own; null: file_head serves.
     void (*backdoor_file_head)();
+    // With -b, ends those side files, after file_tail; null: there are none.
+    void (*backdoor_file_tail)();
     const char* file_tail;
     const char* width_warning; // data width in bits
 

@@ -160,7 +160,6 @@ const brix_bkdr_templates sv_bkdr_templates = {
     /*ctor_args_end*/ ");\n",
     /*ctor_assign*/ "\t\tthis.%s = %s;\n",
     /*ctor_tail*/ "\tendfunction\n\n",
-    /*emit_tasks*/ emit_backdoor_tasks_in_class,
     /*class_tail*/ "endclass\n\n\n",
 
     /*reg_task_head*/
@@ -181,6 +180,8 @@ const brix_bkdr_templates sv_bkdr_templates = {
     /*task_ok_tail*/
     {"\t\tstatus = qvt_rw::IS_OK;\n\tendtask\n\n", "\t\tstatus = qvt_rw::IS_OK;\n\tendtask\n"},
     /*task_error*/ "\t\tstatus = qvt_rw::ERROR;\n\tendtask\n",
+    /*emit_tasks_head*/ nullptr,
+    /*emit_task_body*/ emit_backdoor_access_code,
 
     /*inst_foreach_head*/ "foreach (this",
     /*inst_foreach_tail*/ ".%s[i%d]) begin\n",
@@ -192,6 +193,7 @@ const brix_gen_templates sv_templates = {
     /*file_suffix*/ ".sv",
     /*file_head*/ "`ifndef BRX_%s\n`define BRX_%s\n\n`include \"qvt_brx.sv\"\n\n",
     /*backdoor_file_head*/ nullptr,
+    /*backdoor_file_tail*/ nullptr,
     /*file_tail*/ "`endif\n",
     /*width_warning*/
     "Warning: This BRX model requires `QVT_BRX_DATA_WIDTH macro to be defined to %d or "

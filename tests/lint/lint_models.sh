@@ -6,6 +6,9 @@
 #   lint_models.sh examples <source root> <brixgen> models generated from examples/
 #   lint_models.sh backdoor <source root> <brixgen> backdoor models against the designs
 #                                                   listed in backdoor/designs
+#   lint_models.sh hx_backdoor <source root> <brixgen>
+#                                                   the Verilog task modules of HX backdoors
+#                                                   against the designs in backdoor/hx_designs
 #
 # Three changes are made to a model, for what the front end lacks: $psprintf becomes
 # $sformatf; a `foreach` over an array inside an element of an outer array becomes a `for`
@@ -77,34 +80,47 @@ examples)
         done
     done
     ;;
-backdoor)
-    # Each model's backdoor classes reach into its design below a top module `bd_top`,
-    # through the model's <TOP>_TOP_PATH.
+backdoor | hx_backdoor)
+    # Each model's backdoor reaches into its design below a top module `bd_top`, through
+    # the model's <TOP>_TOP_PATH: in SystemVerilog its classes, in HX the module of
+    # Verilog tasks, which `bd_top` holds so that it is elaborated.
     bin=$(readlink -f "$3")
+    if [ "$mode" = backdoor ]; then
+        lang=sv list=designs pattern='*.sv'
+    else
+        lang=hx list=hx_designs pattern='brx_bkdrs_*.v'
+    fi
     while read -r source design module; do
         case $source in
         example:*)
             name=${source#example:}
-            run="$work/$name-backdoor"
-            cp -r "$root/examples/$name" "$run"
-            eval "set -- $(cat "$run/brixgen.args")"
-            if ! (cd "$run" && "$bin" -q -b "$@") >"$work/gen.log" 2>&1; then
-                echo "--- $name -b: generation failed"
+            dir="$work/$name-$lang-backdoor"
+            cp -r "$root/examples/$name" "$dir"
+            eval "set -- $(sed "s/-l sv/-l $lang/" "$dir/brixgen.args")"
+            if ! (cd "$dir" && "$bin" -q -b "$@") >"$work/gen.log" 2>&1; then
+                echo "--- $name -l $lang -b: generation failed"
                 cat "$work/gen.log"
                 failed=$((failed + 1))
                 continue
             fi
-            models=("$run"/*.sv)
             ;;
-        *) models=("$root/tests/golden/$source"/expected/files/*.sv) ;;
+        *) dir="$root/tests/golden/$source/expected/files" ;;
         esac
-        printf 'module bd_top;\n    %s dut ();\nendmodule\n' "$module" >"$work/bd_top.sv"
-        for m in "${models[@]}"; do
-            top=$(sed -n '1s/^`ifndef BRX_//p' "$m")
+        for m in "$dir"/$pattern; do
+            if [ $lang = sv ]; then
+                top=$(sed -n '1s/^`ifndef BRX_//p' "$m")
+                printf 'module bd_top;\n    %s dut ();\nendmodule\n' "$module" >"$work/bd_top.sv"
+            else
+                tasks=$(sed -n 's/^module \(qvt_brx_bkdrs_[A-Za-z0-9_]*\);$/\1/p' "$m")
+                top=${tasks#qvt_brx_bkdrs_}
+                top=${top^^}
+                printf 'module bd_top;\n    %s dut ();\n    %s tasks ();\nendmodule\n' \
+                    "$module" "$tasks" >"$work/bd_top.sv"
+            fi
             lint "$m" "$source ($(basename "$m"))" "$here/backdoor/$design" bd_top.sv \
                 --top-module bd_top "+define+${top}_TOP_PATH=bd_top.dut"
         done
-    done < <(grep -v '^#' "$here/backdoor/designs")
+    done < <(grep -v '^#' "$here/backdoor/$list")
     ;;
 esac
 echo "linted $count models"
