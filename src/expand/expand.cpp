@@ -161,15 +161,10 @@ void brix_flush_tcl_stdout() {
 }
 
 void brix_print_result() {
-    // The flush replaces the interpreter's result, which must stand afterwards as the
-    // result of what was evaluated: `set v [source f]` takes the last result of f.
-    Tcl_Obj* result = Tcl_GetObjResult(brixgen_interp);
-    Tcl_IncrRefCount(result);
-    brix_flush_tcl_stdout();
-    fputs(Tcl_GetString(result), stdout);
-    fflush(stdout);
-    Tcl_SetObjResult(brixgen_interp, result);
-    Tcl_DecrRefCount(result);
+    // Through stdio and unflushed: the text waits in stdio's buffer until a `doc` or
+    // `constraint` flushes it into the pure text, or else reaches the user's standard
+    // output when the process ends. The result stays standing (`set v [source f]`).
+    fputs(Tcl_GetStringResult(brixgen_interp), stdout);
 }
 
 int brix_check_result(int status) {
@@ -263,7 +258,6 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     // Both of Tcl's stdout channel, made when first used, and stdio's stdout write into
     // the pure file, so descriptor 1 is moved before the interpreter exists.
-    fflush(stdout);
     const int user_stdout = dup(1);
     close(1);
     dup(fd);
@@ -290,8 +284,8 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
     free_str2str_map(all_procs_location_info, 1);
     free_str2int_map(all_purebrix_cmds);
 
+    // What stdio still holds is left for the user's standard output.
     brix_flush_tcl_stdout();
-    fflush(stdout);
     close(fd);
     close(1);
     dup(user_stdout);

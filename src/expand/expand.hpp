@@ -39,8 +39,8 @@ void brix_fold_error_line(int error_line);
 int brix_check_result(int status);
 // Tcl_Eval followed by brix_check_result.
 int brix_eval_checked(const std::string& script);
-// Writes the interpreter's result into the pure text through stdio, after what Tcl has
-// buffered, and leaves the result as it was.
+// Prints the interpreter's result through stdio without a flush, and leaves the result
+// as it was.
 void brix_print_result();
 // Evaluates "flush stdout" so that stdio may write behind Tcl's channel; fatal on error.
 void brix_flush_tcl_stdout();
