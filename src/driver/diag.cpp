@@ -1,5 +1,7 @@
 #include "driver/diag.hpp"
 
+#include "expand/expand.hpp"
+
 #include <cstdlib>
 #include <cstring>
 #include <unistd.h>
@@ -11,6 +13,11 @@ FILE* brx_model_fp = nullptr;
 int brix_quiet_mode = 0;
 
 void brix_exit(int status) {
+    // The writers buffer: what they were given reaches its file on every way out.
+    brix_release_tcl_stdout();
+    if (brx_model_fp != nullptr) {
+        fflush(brx_model_fp);
+    }
     if (pure_brix_file[0] != '\0') {
         unlink(pure_brix_file);
     }
@@ -85,7 +92,10 @@ void brix_vemit(const char* fmt, brix_args args) {
     FILE* out = brx_model_fp;
     for (const char* p = fmt; *p != '\0'; ++p) {
         if (*p != '%') {
-            fputc(*p, out);
+            // The text up to the next directive in one piece.
+            const std::size_t run = strcspn(p, "%");
+            fwrite(p, 1, run, out);
+            p += run - 1;
             continue;
         }
         if (p[1] == '\0') {
@@ -122,19 +132,16 @@ void brix_vemit(const char* fmt, brix_args args) {
                         fprintf(out, *p == 'X' ? "%llX" : "%llu", a->as_unsigned());
                     }
                 } else {
-                    fflush(out);
                     brix_error("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n",
                                *p);
                 }
             } else {
-                fflush(out);
                 brix_error("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
             }
         } else {
             fputc(c, out);
         }
     }
-    fflush(out);
 }
 
 long long brix_pow(int32_t base, int32_t exponent) {

@@ -68,9 +68,25 @@ class pure_writer {
             failed_ = true;
         }
     }
+    // Writes `text`, which `script`, a `puts` of it, writes when evaluated.
+    void put(std::string_view text, const char* script) {
+        if (!failed_ && !brix_write_plain(text)) {
+            eval(script);
+        }
+    }
     void word(const char* text) {
-        std::string script = "puts -nonewline \"";
+        if (failed_) {
+            return;
+        }
         const std::size_t length = strlen(text);
+        std::string plain;
+        plain.reserve(length + 1);
+        plain.append(text, length);
+        plain += ' ';
+        if (brix_write_plain(plain)) {
+            return;
+        }
+        std::string script = "puts -nonewline \"";
         if (length <= 1000) {
             for (const char* p = text; *p != '\0'; ++p) {
                 if (*p == '"') {
@@ -92,12 +108,14 @@ class pure_writer {
         }
     }
     void indent() {
-        if (brix_level > 0) {
-            eval("puts -nonewline \"" + std::string(static_cast<std::size_t>(brix_level), '\t') +
-                 "\"");
+        if (brix_level > 0 && !failed_) {
+            const std::string tabs(static_cast<std::size_t>(brix_level), '\t');
+            if (!brix_write_plain(tabs)) {
+                eval("puts -nonewline \"" + tabs + "\"");
+            }
         }
     }
-    void newline() { eval("puts \"\""); }
+    void newline() { put("\n", "puts \"\""); }
     bool failed() const { return failed_; }
     int status() const { return failed_ ? TCL_ERROR : TCL_OK; }
 
@@ -146,7 +164,7 @@ int write_compound(const description_command& cmd, int argc, const char** argv) 
     if (body == nullptr) {
         return w.status();
     }
-    w.eval("puts -nonewline \"{\\n\"");
+    w.put("{\n", "puts -nonewline \"{\\n\"");
     if (w.failed()) {
         return TCL_ERROR;
     }
@@ -160,9 +178,9 @@ int write_compound(const description_command& cmd, int argc, const char** argv) 
     }
     --brix_level;
     w.indent();
-    w.eval("puts \"}\"");
+    w.put("}\n", "puts \"}\"");
     if (brix_level == 0 && cmd.gap_at_top) {
-        w.eval("puts \"\\n\"");
+        w.put("\n\n", "puts \"\\n\"");
     }
     return w.status();
 }
@@ -194,9 +212,13 @@ int write_all_words(int argc, const char** argv) {
 int write_braced(const description_command& cmd, int argc, const char** argv) {
     pure_writer w = start_declaration();
     w.words(argv, 0, argc - 1);
-    w.eval("puts -nonewline \"{ \"");
+    w.put("{ ", "puts -nonewline \"{ \"");
     w.word(argv[argc - 1]);
-    w.eval(cmd.stays_on_line ? "puts -nonewline \" }\"" : "puts \" }\"");
+    if (cmd.stays_on_line) {
+        w.put(" }", "puts -nonewline \" }\"");
+    } else {
+        w.put(" }\n", "puts \" }\"");
+    }
     return w.status();
 }
 
@@ -216,9 +238,9 @@ int write_bins(int argc, const char** argv) {
         }
         values += *p;
     }
-    w.eval("puts -nonewline \"{ \"");
+    w.put("{ ", "puts -nonewline \"{ \"");
     w.word(values.c_str());
-    w.eval("puts \" }\"");
+    w.put(" }\n", "puts \" }\"");
     return w.status();
 }
 

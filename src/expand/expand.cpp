@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 Tcl_Interp* brixgen_interp = nullptr;
+Tcl_Command tcl_puts = nullptr;
 const char* reading_brix_file = nullptr;
 unsigned long long brix_tcl_error_linenum = 0;
 char* user_pwd = nullptr;
@@ -122,6 +123,8 @@ struct reading_file_scope {
 void setup_interpreter() {
     brixgen_interp = Tcl_CreateInterp();
     Tcl_Init(brixgen_interp);
+    tcl_puts = Tcl_FindCommand(brixgen_interp, "::puts", nullptr, TCL_GLOBAL_ONLY);
+    brix_hold_tcl_stdout();
     for (const char* rename :
          {"rename source __brix_source_original__", "rename proc __brix_proc_original__"}) {
         if (brix_check_result(Tcl_Eval(brixgen_interp, rename)) != TCL_OK) {
@@ -149,12 +152,14 @@ void brix_fold_error_line(int error_line) {
 }
 
 void brix_flush_tcl_stdout() {
-    const int status = Tcl_Eval(brixgen_interp, "flush stdout");
+    static Tcl_Obj* const flush = brix_cached_script("flush stdout");
+    const int status = Tcl_EvalObjEx(brixgen_interp, flush, 0);
     const char* result = Tcl_GetStringResult(brixgen_interp);
     if (status == TCL_ERROR) {
         fputs("ERROR: Interprator exited with an error while executing \"flush stdout\"\n", stderr);
         brix_exit(1);
     }
+    brix_release_tcl_stdout();
     if (*result != '\0') {
         fputs(result, stdout);
     }
@@ -164,6 +169,8 @@ void brix_print_result() {
     // Through stdio and unflushed: the text waits in stdio's buffer until a `doc` or
     // `constraint` flushes it into the pure text, or else reaches the user's standard
     // output when the process ends. The result stays standing (`set v [source f]`).
+    // stdio may write to descriptor 1 now, behind what Tcl has written there.
+    brix_release_tcl_stdout();
     fputs(Tcl_GetStringResult(brixgen_interp), stdout);
 }
 
@@ -183,6 +190,36 @@ int brix_check_result(int status) {
 
 int brix_eval_checked(const std::string& script) {
     return brix_check_result(Tcl_Eval(brixgen_interp, script.c_str()));
+}
+
+Tcl_Obj* brix_cached_script(const char* script) {
+    Tcl_Obj* obj = Tcl_NewStringObj(script, -1);
+    Tcl_IncrRefCount(obj);
+    return obj;
+}
+
+bool brix_write_plain(std::string_view text) {
+    // In a double-quoted word only these substitute or end the word.
+    if (text.find_first_of("$[\\\"") != std::string_view::npos) {
+        return false;
+    }
+    // The `puts` that the script would call, found from the current namespace as Tcl
+    // finds it, must be Tcl's own.
+    if (Tcl_FindCommand(brixgen_interp, "puts", nullptr, 0) != tcl_puts) {
+        return false;
+    }
+    int mode = 0;
+    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
+    if (out == nullptr || (mode & TCL_WRITABLE) == 0) {
+        return false;
+    }
+    // A failed write is left to the evaluation, which reports it the way `puts` does.
+    if (Tcl_WriteChars(out, text.data(), static_cast<int>(text.size())) < 0) {
+        return false;
+    }
+    // As after the evaluation of a `puts`.
+    Tcl_ResetResult(brixgen_interp);
+    return true;
 }
 
 int execute_brix_file(const char* path) {

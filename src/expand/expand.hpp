@@ -4,6 +4,7 @@
 #include "driver/maps.hpp"
 
 #include <string>
+#include <string_view>
 #include <tcl.h>
 
 // Evaluates the description file and writes the pure description into pure_file.
@@ -39,6 +40,19 @@ void brix_fold_error_line(int error_line);
 int brix_check_result(int status);
 // Tcl_Eval followed by brix_check_result.
 int brix_eval_checked(const std::string& script);
+// A script evaluated many times, kept as one object so that Tcl compiles it once.
+Tcl_Obj* brix_cached_script(const char* script);
+// Writes `text` to Tcl's stdout channel, as the evaluation of `puts -nonewline "<text>"`
+// would, when nothing in the text or the interpreter could make the two differ; false,
+// with nothing written, when the caller must evaluate the `puts`.
+bool brix_write_plain(std::string_view text);
+// Tcl's own `puts`, as found once the interpreter is set up.
+extern Tcl_Command tcl_puts;
+// Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
+// brix_release_tcl_stdout, a seek, a child process or the channel's end.
+void brix_hold_tcl_stdout();
+// Writes what Tcl's stdout holds to descriptor 1; called before anything else writes there.
+void brix_release_tcl_stdout();
 // Prints the interpreter's result through stdio without a flush, and leaves the result
 // as it was.
 void brix_print_result();

@@ -18,6 +18,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <deque>
+#include <vector>
 
 namespace {
 
@@ -101,16 +102,39 @@ int brix_parse_info_frame_level_info(ClientData, Tcl_Interp*, int argc, const ch
     return TCL_OK;
 }
 
+namespace {
+// Hands the words of the `info frame` answer in the interpreter's result to the frame
+// parser. They are the words that evaluating "__brix_parse_info_frame_level_info__ <answer>"
+// would pass it, since a list's text reads back as the same words.
+int parse_frame_answer() {
+    Tcl_Obj* answer = Tcl_GetObjResult(brixgen_interp);
+    Tcl_IncrRefCount(answer);
+    int count = 0;
+    Tcl_Obj** elements = nullptr;
+    int status = Tcl_ListObjGetElements(brixgen_interp, answer, &count, &elements);
+    if (status == TCL_OK) {
+        std::vector<const char*> words;
+        words.reserve(static_cast<std::size_t>(count) + 1);
+        words.push_back("__brix_parse_info_frame_level_info__");
+        for (int i = 0; i < count; ++i) {
+            words.push_back(Tcl_GetString(elements[i]));
+        }
+        status = brix_parse_info_frame_level_info(nullptr, brixgen_interp,
+                                                  static_cast<int>(words.size()), words.data());
+    }
+    Tcl_DecrRefCount(answer);
+    return status;
+}
+} // namespace
+
 int get_current_brix_file_line_num(const char** file_out) {
     // Level -1 is the command whose procedure asks.
-    if (Tcl_Eval(brixgen_interp, "info frame -1") == TCL_ERROR &&
+    static Tcl_Obj* const query = brix_cached_script("info frame -1");
+    if (Tcl_EvalObjEx(brixgen_interp, query, 0) == TCL_ERROR &&
         *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
     }
-    const std::string parse =
-        std::string("__brix_parse_info_frame_level_info__ ") + Tcl_GetStringResult(brixgen_interp);
-    if (Tcl_Eval(brixgen_interp, parse.c_str()) == TCL_ERROR &&
-        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+    if (parse_frame_answer() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
     }
     Tcl_ResetResult(brixgen_interp);
@@ -137,7 +161,11 @@ int emit_brix_hashline(lineno_cache_entry* where) {
     if (where != nullptr) {
         *where = {1, line, file};
     }
-    return brix_eval_checked("puts \"BRIX_HASHLINE " + std::to_string(line) + " " + file + "\"");
+    const std::string text = "BRIX_HASHLINE " + std::to_string(line) + " " + file;
+    if (brix_write_plain(text + "\n")) {
+        return TCL_OK;
+    }
+    return brix_eval_checked("puts \"" + text + "\"");
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
