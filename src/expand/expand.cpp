@@ -198,22 +198,25 @@ Tcl_Obj* brix_cached_script(const char* script) {
     return obj;
 }
 
-bool brix_write_plain(std::string_view text) {
+bool brix_plain_text(std::string_view text) {
     // In a double-quoted word only these substitute or end the word.
-    if (text.find_first_of("$[\\\"") != std::string_view::npos) {
-        return false;
-    }
-    // The `puts` that the script would call, found from the current namespace as Tcl
-    // finds it, must be Tcl's own.
-    if (Tcl_FindCommand(brixgen_interp, "puts", nullptr, 0) != tcl_puts) {
+    return text.find_first_of("$[\\\"") == std::string_view::npos;
+}
+
+bool brix_direct_writes() {
+    // The `puts` that a script would call, found from the current namespace as Tcl finds
+    // it, must be Tcl's own, and it must find the channel writable.
+    static Tcl_Obj* const puts = brix_cached_script("puts");
+    if (Tcl_GetCommandFromObj(brixgen_interp, puts) != tcl_puts) {
         return false;
     }
     int mode = 0;
     const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
-    if (out == nullptr || (mode & TCL_WRITABLE) == 0) {
-        return false;
-    }
-    // A failed write is left to the evaluation, which reports it the way `puts` does.
+    return out != nullptr && (mode & TCL_WRITABLE) != 0;
+}
+
+bool brix_write_direct(std::string_view text) {
+    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", nullptr);
     if (Tcl_WriteChars(out, text.data(), static_cast<int>(text.size())) < 0) {
         return false;
     }

@@ -42,10 +42,14 @@ int brix_check_result(int status);
 int brix_eval_checked(const std::string& script);
 // A script evaluated many times, kept as one object so that Tcl compiles it once.
 Tcl_Obj* brix_cached_script(const char* script);
-// Writes `text` to Tcl's stdout channel, as the evaluation of `puts -nonewline "<text>"`
-// would, when nothing in the text or the interpreter could make the two differ; false,
-// with nothing written, when the caller must evaluate the `puts`.
-bool brix_write_plain(std::string_view text);
+// Text that a `puts -nonewline "<text>"` writes as it stands: nothing in it substitutes.
+bool brix_plain_text(std::string_view text);
+// Whether such a `puts` would be Tcl's own, writing to a writable stdout channel, so that
+// its text may be written straight to the channel instead.
+bool brix_direct_writes();
+// Writes text straight to Tcl's stdout channel, as such a `puts` would; false, when the
+// write fails, for the caller to evaluate the `puts` and report the failure as it does.
+bool brix_write_direct(std::string_view text);
 // Tcl's own `puts`, as found once the interpreter is set up.
 extern Tcl_Command tcl_puts;
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
@@ -76,8 +80,9 @@ void brix_clear_line_cache();
 // The line of the command being run; stores its file in *file_out, which the caller must
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
-// Writes one hash line. With `where`, also hands back the place it named.
-int emit_brix_hashline(lineno_cache_entry* where = nullptr);
+// The text of the hash line of the command being run, without its newline. With `where`,
+// also hands back the place it names.
+std::string brix_hashline_text(lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,

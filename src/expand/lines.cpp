@@ -152,7 +152,7 @@ int get_current_brix_file_line_num(const char** file_out) {
     return line + anchor.file_line - anchor.frame_line;
 }
 
-int emit_brix_hashline(lineno_cache_entry* where) {
+std::string brix_hashline_text(lineno_cache_entry* where) {
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
@@ -161,11 +161,7 @@ int emit_brix_hashline(lineno_cache_entry* where) {
     if (where != nullptr) {
         *where = {1, line, file};
     }
-    const std::string text = "BRIX_HASHLINE " + std::to_string(line) + " " + file;
-    if (brix_write_plain(text + "\n")) {
-        return TCL_OK;
-    }
-    return brix_eval_checked("puts \"" + text + "\"");
+    return "BRIX_HASHLINE " + std::to_string(line) + " " + file;
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
