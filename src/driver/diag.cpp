@@ -2,8 +2,10 @@
 
 #include "expand/expand.hpp"
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <unistd.h>
 
 char pure_brix_file[100] = "";
@@ -217,9 +219,58 @@ unsigned long long get_ceil(unsigned long long a, unsigned long long b) {
 void* brix_malloc(std::size_t size) {
     return malloc(size);
 }
-void brix_free(void* p) {
-    free(p);
-}
 char* brix_strdup(const char* s) {
     return strdup(s);
+}
+
+namespace {
+// The blocks of the arena, by address, each with its end.
+std::map<const char*, const char*>& arena_blocks() {
+    static std::map<const char*, const char*> blocks;
+    return blocks;
+}
+
+bool in_arena(const void* p) {
+    const auto& blocks = arena_blocks();
+    const char* c = static_cast<const char*>(p);
+    auto it = blocks.upper_bound(c);
+    return it != blocks.begin() && c < (--it)->second;
+}
+} // namespace
+
+void* brix_arena_alloc(std::size_t size, std::size_t alignment) {
+    constexpr std::size_t block_size = std::size_t{1} << 20;
+    static char* next = nullptr;
+    static std::size_t left = 0;
+    if (size > block_size / 4) {
+        return brix_malloc(size);
+    }
+    std::size_t pad = (alignment - reinterpret_cast<std::uintptr_t>(next) % alignment) % alignment;
+    if (next == nullptr || pad + size > left) {
+        // The rest of the block is left unused; a failed allocation gives null, as malloc.
+        next = static_cast<char*>(brix_malloc(block_size));
+        if (next == nullptr) {
+            left = 0;
+            return nullptr;
+        }
+        arena_blocks().emplace(next, next + block_size);
+        left = block_size;
+        pad = 0;
+    }
+    void* p = next + pad;
+    next += pad + size;
+    left -= pad + size;
+    return p;
+}
+
+char* brix_arena_strdup(const char* s) {
+    const std::size_t size = strlen(s) + 1;
+    auto* copy = static_cast<char*>(brix_arena_alloc(size, 1));
+    return copy != nullptr ? static_cast<char*>(memcpy(copy, s, size)) : nullptr;
+}
+
+void brix_free(void* p) {
+    if (!in_arena(p)) {
+        free(p);
+    }
 }

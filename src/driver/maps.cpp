@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
 
 unsigned brix_hash_key(const char* key) {
     unsigned sum = 0;
@@ -111,7 +112,7 @@ brix_str2voidptr_map_node_tag* add_str2voidptr_map_entry(brix_str2voidptr_map& m
 void update_str2int_map(brix_str2int_map& map, char* key) {
     if (brix_str2int_map_node_tag* node = find_node(map, key)) {
         node->value += 1;
-        free(key);
+        brix_free(key);
         return;
     }
     add_str2int_map_entry(map, key, 1);
@@ -120,7 +121,7 @@ void update_str2int_map(brix_str2int_map& map, char* key) {
 void update_str2str_map_entry(brix_str2str_map& map, const char* key, char* value) {
     auto* node = find_for_update<brix_str2str_map, brix_str2str_map_node_tag>(
         map, key, "update_str2str_map_entry");
-    free(node->value);
+    brix_free(node->value);
     node->value = value;
 }
 
@@ -147,7 +148,7 @@ void* get_str2voidptr_map_value(const brix_str2voidptr_map& map, const char* key
 
 void free_str2int_map(brix_str2int_map& map) {
     free_map(map, [](brix_str2int_map_node_tag* n) {
-        free(n->key);
+        brix_free(n->key);
         delete n;
     });
 }
@@ -156,9 +157,9 @@ void free_str2str_map(brix_str2str_map& map, int mode) {
     free_map(map, [mode](brix_str2str_map_node_tag* n) {
         if (mode <= 1) {
             if (mode == 1) {
-                free(n->key);
+                brix_free(n->key);
             }
-            free(n->value);
+            brix_free(n->value);
         }
         delete n;
     });
@@ -167,7 +168,7 @@ void free_str2str_map(brix_str2str_map& map, int mode) {
 void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
     free_map(map, [mode](brix_str2voidptr_map_node_tag* n) {
         if (mode == 1) {
-            free(n->key);
+            brix_free(n->key);
         }
         delete n;
     });
@@ -207,7 +208,8 @@ void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
 } // namespace
 
 brix_list_tag* create_brix_list_node(int tag, void* data) {
-    return new brix_list_tag{tag, data, nullptr};
+    void* node = brix_arena_alloc(sizeof(brix_list_tag), alignof(brix_list_tag));
+    return new (node) brix_list_tag{tag, data, nullptr};
 }
 
 brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data) {
@@ -246,12 +248,8 @@ brix_list_tag* brix_list_pop(brix_list_tag** head) {
 }
 
 void destroy_brix_list(brix_list_tag* head) {
+    // The nodes live in the arena, with the model; only the list's hint goes.
     if (head != nullptr) {
         tail_hints().erase(head);
-    }
-    while (head != nullptr) {
-        brix_list_tag* next = head->next;
-        delete head;
-        head = next;
     }
 }

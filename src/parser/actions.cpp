@@ -92,7 +92,7 @@ void open_definition_scope(const char* name) {
 }
 
 void close_definition_scope() {
-    switch_to_scope(current_scope->parent);
+    close_scope();
 }
 
 // hdl paths --------------------------------------------------------------------------

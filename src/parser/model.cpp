@@ -1,7 +1,5 @@
 #include "parser/model.hpp"
 
-#include <cstdint>
-
 #include <cstring>
 
 brix_block_type_tag* all_block_types = nullptr;
@@ -27,30 +25,6 @@ void initialize_cvr_spec(brix_cvr_spec_tag* spec) {
     spec->addr_map = 3;
     spec->reg_bits = 3;
     spec->field_vals = 3;
-}
-
-void* brix_record_alloc(std::size_t size, std::size_t alignment) {
-    constexpr std::size_t block_size = std::size_t{1} << 20;
-    static char* next = nullptr;
-    static std::size_t left = 0;
-    if (size > block_size / 4) {
-        return brix_malloc(size);
-    }
-    std::size_t pad = (alignment - reinterpret_cast<std::uintptr_t>(next) % alignment) % alignment;
-    if (next == nullptr || pad + size > left) {
-        // The rest of the block is left unused; a failed allocation gives null, as malloc.
-        next = static_cast<char*>(brix_malloc(block_size));
-        if (next == nullptr) {
-            left = 0;
-            return nullptr;
-        }
-        left = block_size;
-        pad = 0;
-    }
-    void* record = next + pad;
-    next += pad + size;
-    left -= pad + size;
-    return record;
 }
 
 brix_cvr_spec_tag* new_all_unsaid_cvr_spec() {

@@ -21,7 +21,7 @@ std::unordered_map<std::string_view, brix_symrec*>& keyword_index() {
 
 brix_scope* new_scope(const char* name) {
     auto* scope = new (brix_new_record<brix_scope>()) brix_scope{};
-    scope->name = name != nullptr ? brix_strdup(name) : nullptr;
+    scope->name = name != nullptr ? brix_arena_strdup(name) : nullptr;
     return scope;
 }
 
@@ -30,6 +30,9 @@ brix_symrec*& bucket_head(brix_scope* scope, unsigned bucket) {
         if (b == bucket) {
             return head;
         }
+    }
+    if (scope->bucket_heads.empty()) {
+        scope->bucket_heads.reserve(4); // a register's fields, without regrowing
     }
     return scope->bucket_heads.emplace_back(static_cast<unsigned char>(bucket), nullptr).second;
 }
@@ -103,6 +106,15 @@ brix_symrec* scope_bucket_head(const brix_scope* scope, unsigned bucket) {
 }
 
 brix_scope* create_child_scope(brix_scope* parent, const char* name) {
+    // Nothing can reach a closed scope that holds nothing (most fields' scopes): the next
+    // sibling takes its place instead of adding to the memory of every field.
+    if (brix_scope* last = parent->last_child; last != nullptr && last->closed &&
+                                               last->symbol_count == 0 &&
+                                               last->first_child == nullptr) {
+        last->name = brix_arena_strdup(name);
+        last->closed = false;
+        return last;
+    }
     brix_scope* scope = new_scope(name);
     scope->parent = parent;
     if (parent->last_child == nullptr) {
@@ -116,6 +128,11 @@ brix_scope* create_child_scope(brix_scope* parent, const char* name) {
 
 void switch_to_scope(brix_scope* scope) {
     current_scope = scope;
+}
+
+void close_scope() {
+    current_scope->closed = true;
+    current_scope = current_scope->parent;
 }
 
 brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, void* data) {

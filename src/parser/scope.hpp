@@ -35,6 +35,7 @@ struct brix_scope {
     // the description. The shared keyword symbols are found through their own table.
     std::unique_ptr<std::unordered_map<std::string_view, brix_symrec*>> newest;
     unsigned symbol_count;
+    bool closed; // left by the parser; an empty one is reused for its next sibling
 };
 
 extern const char* const brix_keywords[BRIX_NUM_KEYWORDS];
@@ -51,6 +52,8 @@ brix_scope* create_child_scope(brix_scope* parent, const char* name);
 // The newest of the scope's own symbols in a bucket, whose `next` leads to older ones.
 brix_symrec* scope_bucket_head(const brix_scope* scope, unsigned bucket);
 void switch_to_scope(brix_scope* scope);
+// Leaves the current scope for its parent.
+void close_scope();
 brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, void* data);
 brix_symrec* lookup_local_symbol(const char* name);
 brix_symrec* lookup_global_symbol(const char* name);
