@@ -76,7 +76,7 @@ class pure_writer {
         if (failed_) {
             return;
         }
-        if (direct_ && brix_plain_text(text)) {
+        if (direct_ != nullptr && brix_plain_text(text)) {
             pending_ += text;
             if (text.find('\n') != std::string_view::npos) {
                 flushed_ = pending_.size();
@@ -131,7 +131,10 @@ class pure_writer {
         flushed_ = 0;
         const std::string_view all(text);
         for (const std::string_view part : {all.substr(0, flushed), all.substr(flushed)}) {
-            if (!part.empty() && !failed_ && !brix_write_direct(part)) {
+            if (part.empty() || failed_) {
+                continue;
+            }
+            if (direct_ == nullptr || !brix_write_direct(direct_, part)) {
                 // Let `puts` meet the failure again and report it as it does.
                 eval("puts -nonewline \"" + std::string(part) + "\"", false);
             }
@@ -161,7 +164,7 @@ class pure_writer {
     }
 
     bool failed_ = false;
-    bool direct_;
+    Tcl_Channel direct_; // where plain pieces may go straight, or null
     std::string pending_;
     std::size_t flushed_ = 0; // end of the last piece with a newline in it
 };

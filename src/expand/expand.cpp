@@ -152,7 +152,7 @@ void brix_fold_error_line(int error_line) {
 }
 
 void brix_flush_tcl_stdout() {
-    static Tcl_Obj* const flush = brix_cached_script("flush stdout");
+    static Tcl_Obj* const flush = brix_cached_obj("flush stdout");
     const int status = Tcl_EvalObjEx(brixgen_interp, flush, 0);
     const char* result = Tcl_GetStringResult(brixgen_interp);
     if (status == TCL_ERROR) {
@@ -192,7 +192,7 @@ int brix_eval_checked(const std::string& script) {
     return brix_check_result(Tcl_Eval(brixgen_interp, script.c_str()));
 }
 
-Tcl_Obj* brix_cached_script(const char* script) {
+Tcl_Obj* brix_cached_obj(const char* script) {
     Tcl_Obj* obj = Tcl_NewStringObj(script, -1);
     Tcl_IncrRefCount(obj);
     return obj;
@@ -200,23 +200,27 @@ Tcl_Obj* brix_cached_script(const char* script) {
 
 bool brix_plain_text(std::string_view text) {
     // In a double-quoted word only these substitute or end the word.
-    return text.find_first_of("$[\\\"") == std::string_view::npos;
+    for (const char c : text) {
+        if (c == '$' || c == '[' || c == '\\' || c == '"') {
+            return false;
+        }
+    }
+    return true;
 }
 
-bool brix_direct_writes() {
+Tcl_Channel brix_direct_writes() {
     // The `puts` that a script would call, found from the current namespace as Tcl finds
     // it, must be Tcl's own, and it must find the channel writable.
-    static Tcl_Obj* const puts = brix_cached_script("puts");
+    static Tcl_Obj* const puts = brix_cached_obj("puts");
     if (Tcl_GetCommandFromObj(brixgen_interp, puts) != tcl_puts) {
-        return false;
+        return nullptr;
     }
     int mode = 0;
     const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
-    return out != nullptr && (mode & TCL_WRITABLE) != 0;
+    return (mode & TCL_WRITABLE) != 0 ? out : nullptr;
 }
 
-bool brix_write_direct(std::string_view text) {
-    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", nullptr);
+bool brix_write_direct(Tcl_Channel out, std::string_view text) {
     if (Tcl_WriteChars(out, text.data(), static_cast<int>(text.size())) < 0) {
         return false;
     }

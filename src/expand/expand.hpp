@@ -40,16 +40,18 @@ void brix_fold_error_line(int error_line);
 int brix_check_result(int status);
 // Tcl_Eval followed by brix_check_result.
 int brix_eval_checked(const std::string& script);
-// A script evaluated many times, kept as one object so that Tcl compiles it once.
-Tcl_Obj* brix_cached_script(const char* script);
+// A Tcl object kept for the whole run: a fixed script, which Tcl then compiles once, or
+// a fixed word, which keeps what Tcl resolved it to.
+Tcl_Obj* brix_cached_obj(const char* script);
 // Text that a `puts -nonewline "<text>"` writes as it stands: nothing in it substitutes.
 bool brix_plain_text(std::string_view text);
-// Whether such a `puts` would be Tcl's own, writing to a writable stdout channel, so that
-// its text may be written straight to the channel instead.
-bool brix_direct_writes();
-// Writes text straight to Tcl's stdout channel, as such a `puts` would; false, when the
-// write fails, for the caller to evaluate the `puts` and report the failure as it does.
-bool brix_write_direct(std::string_view text);
+// The channel that such a `puts` would write to, when the `puts` is Tcl's own and the
+// channel writable, so that its text may be written straight to the channel instead;
+// else null. It stands until Tcl runs a script.
+Tcl_Channel brix_direct_writes();
+// Writes text straight to that channel, as such a `puts` would; false, when the write
+// fails, for the caller to evaluate the `puts` and report the failure as it does.
+bool brix_write_direct(Tcl_Channel out, std::string_view text);
 // Tcl's own `puts`, as found once the interpreter is set up.
 extern Tcl_Command tcl_puts;
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until

@@ -129,7 +129,7 @@ int parse_frame_answer() {
 
 int get_current_brix_file_line_num(const char** file_out) {
     // Level -1 is the command whose procedure asks.
-    static Tcl_Obj* const query = brix_cached_script("info frame -1");
+    static Tcl_Obj* const query = brix_cached_obj("info frame -1");
     if (Tcl_EvalObjEx(brixgen_interp, query, 0) == TCL_ERROR &&
         *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
