@@ -127,11 +127,27 @@ int parse_frame_answer() {
 }
 } // namespace
 
-int get_current_brix_file_line_num(const char** file_out) {
-    // Level -1 is the command whose procedure asks.
+// Asks "info frame -1" from the command being run, for the frame of that command. When
+// `info` is still Tcl's own, its `frame` is called straight, with level 0, which names the
+// same frame there: the evaluation of the script would push a frame of its own.
+int query_frame() {
     static Tcl_Obj* const query = brix_cached_obj("info frame -1");
-    if (Tcl_EvalObjEx(brixgen_interp, query, 0) == TCL_ERROR &&
-        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+    static Tcl_Obj* const info = brix_cached_obj("info");
+    static Tcl_Obj* const frame_args[] = {brix_cached_obj("frame"), brix_cached_obj("0")};
+    static Tcl_Command tcl_info = nullptr;
+    static Tcl_CmdInfo tcl_frame{};
+    if (tcl_info == nullptr) {
+        tcl_info = Tcl_FindCommand(brixgen_interp, "::info", nullptr, TCL_GLOBAL_ONLY);
+        Tcl_GetCommandInfo(brixgen_interp, "::tcl::info::frame", &tcl_frame);
+    }
+    if (tcl_frame.objProc != nullptr && Tcl_GetCommandFromObj(brixgen_interp, info) == tcl_info) {
+        return tcl_frame.objProc(tcl_frame.objClientData, brixgen_interp, 2, frame_args);
+    }
+    return Tcl_EvalObjEx(brixgen_interp, query, 0);
+}
+
+int get_current_brix_file_line_num(const char** file_out) {
+    if (query_frame() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
     }
     if (parse_frame_answer() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
