@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <unordered_map>
 
 unsigned brix_hash_key(const char* key) {
     unsigned sum = 0;
@@ -26,8 +27,7 @@ template <class Map> void initialize_map(Map& map) {
 }
 
 template <class Map> auto* find_node(const Map& map, const char* key) {
-    const auto it = map.index.find(std::string_view(key));
-    return it == map.index.end() ? nullptr : it->second;
+    return map.index.find(key);
 }
 
 // Appends at the end of the key's chain; a key already present ends the run.
@@ -43,7 +43,7 @@ Node* add_node(Map& map, Node* node, const char* duplicate_message) {
         map.tails[b]->next = node;
     }
     map.tails[b] = node;
-    map.index.emplace(std::string_view(node->key), node);
+    map.index.insert(node);
     return node;
 }
 
@@ -177,7 +177,7 @@ void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
 // Lists ------------------------------------------------------------------------------
 //
 // Appending walks to the tail. To keep long lists linear, the last known tail of each
-// list is remembered by head. A hint is always a node of its list: lists only shrink
+// long list is remembered by head. A hint is always a node of its list: lists only shrink
 // through brix_list_pop and destroy_brix_list, which keep the hints right, so the walk
 // from a hint reaches the true tail even when someone linked nodes on by hand.
 
@@ -187,23 +187,27 @@ std::unordered_map<const brix_list_tag*, brix_list_tag*>& tail_hints() {
     return hints;
 }
 
-brix_list_tag* find_tail(brix_list_tag* head) {
+// Lists shorter than this are walked: most of them (a register's fields) stay short, and
+// a hint each would cost more memory than the walk costs time.
+constexpr int hinted_list_length = 16;
+
+void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
     auto& hints = tail_hints();
     const auto it = hints.find(head);
     brix_list_tag* tail = it == hints.end() ? head : it->second;
-    while (tail->next != nullptr) {
+    int steps = 0;
+    for (; tail->next != nullptr; ++steps) {
         tail = tail->next;
     }
-    return tail;
-}
-
-void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
-    find_tail(head)->next = node;
-    brix_list_tag* tail = node;
-    while (tail->next != nullptr) {
+    tail->next = node;
+    for (; tail->next != nullptr; ++steps) {
         tail = tail->next;
     }
-    tail_hints()[head] = tail;
+    if (it != hints.end()) {
+        it->second = tail;
+    } else if (steps >= hinted_list_length) {
+        hints.emplace(head, tail);
+    }
 }
 } // namespace
 

@@ -6,9 +6,11 @@
 // descriptions; the chains alone decide every observable order.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 constexpr int BRIX_STR2INT_MAP_SIZE = 109;
 constexpr int BRIX_STR2STR_MAP_SIZE = 109;
@@ -30,10 +32,63 @@ struct brix_str2voidptr_map_node_tag {
     brix_str2voidptr_map_node_tag* next;
 };
 
+// The side index of a map: open addressing over the nodes themselves, a slot of one
+// pointer per node or two, as maps can hold a few entries for every register.
+template <class Node> class brix_key_index {
+  public:
+    Node* find(std::string_view key) const {
+        if (slots_.empty()) {
+            return nullptr;
+        }
+        for (std::size_t i = slot_of(key);; i = (i + 1) & (slots_.size() - 1)) {
+            if (slots_[i] == nullptr || key == slots_[i]->key) {
+                return slots_[i];
+            }
+        }
+    }
+    // The node's key must not be in the index yet.
+    void insert(Node* node) {
+        if ((count_ + 1) * 2 > slots_.size()) {
+            grow();
+        }
+        place(node);
+        ++count_;
+    }
+    void clear() {
+        slots_.clear();
+        slots_.shrink_to_fit();
+        count_ = 0;
+    }
+
+  private:
+    std::size_t slot_of(std::string_view key) const {
+        return std::hash<std::string_view>{}(key) & (slots_.size() - 1);
+    }
+    void place(Node* node) {
+        std::size_t i = slot_of(node->key);
+        while (slots_[i] != nullptr) {
+            i = (i + 1) & (slots_.size() - 1);
+        }
+        slots_[i] = node;
+    }
+    void grow() {
+        std::vector<Node*> old(std::max<std::size_t>(8, slots_.size() * 2), nullptr);
+        old.swap(slots_);
+        for (Node* node : old) {
+            if (node != nullptr) {
+                place(node);
+            }
+        }
+    }
+
+    std::vector<Node*> slots_;
+    std::size_t count_ = 0;
+};
+
 template <class Node, int N> struct brix_map {
     Node* buckets[N] = {};
     Node* tails[N] = {}; // last node of each chain, so that adding does not walk it
-    std::unordered_map<std::string_view, Node*> index;
+    brix_key_index<Node> index;
 };
 using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
 using brix_str2str_map = brix_map<brix_str2str_map_node_tag, BRIX_STR2STR_MAP_SIZE>;
