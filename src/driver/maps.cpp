@@ -187,27 +187,8 @@ std::unordered_map<const brix_list_tag*, brix_list_tag*>& tail_hints() {
     return hints;
 }
 
-// Lists shorter than this are walked: most of them (a register's fields) stay short, and
-// a hint each would cost more memory than the walk costs time.
-constexpr int hinted_list_length = 16;
-
 void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
-    auto& hints = tail_hints();
-    const auto it = hints.find(head);
-    brix_list_tag* tail = it == hints.end() ? head : it->second;
-    int steps = 0;
-    for (; tail->next != nullptr; ++steps) {
-        tail = tail->next;
-    }
-    tail->next = node;
-    for (; tail->next != nullptr; ++steps) {
-        tail = tail->next;
-    }
-    if (it != hints.end()) {
-        it->second = tail;
-    } else if (steps >= hinted_list_length) {
-        hints.emplace(head, tail);
-    }
+    brix_link_at_tail(head, node, tail_hints());
 }
 } // namespace
 

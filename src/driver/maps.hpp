@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 constexpr int BRIX_STR2INT_MAP_SIZE = 109;
@@ -131,6 +132,31 @@ brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data);
 void brix_list_push(brix_list_tag** head, brix_list_tag* node);
 brix_list_tag* brix_list_pop(brix_list_tag** head);
 void destroy_brix_list(brix_list_tag* head);
+
+// Links `item`, which may lead a chain, behind the tail of the list that starts at `head`,
+// for any record linked through `next`. The tails of long lists are remembered in
+// `hints`, by head, so that building them stays linear however the appends to different
+// lists interleave; short lists (most: a register's fields) are walked, as a hint each
+// would cost more memory than the walk costs time.
+template <class T>
+void brix_link_at_tail(T* head, T* item, std::unordered_map<const T*, T*>& hints) {
+    constexpr int hinted_list_length = 16;
+    const auto hint = hints.find(head);
+    T* tail = hint == hints.end() ? head : hint->second;
+    int steps = 0;
+    for (; tail->next != nullptr; ++steps) {
+        tail = tail->next;
+    }
+    tail->next = item;
+    for (; tail->next != nullptr; ++steps) {
+        tail = tail->next;
+    }
+    if (hint != hints.end()) {
+        hint->second = tail;
+    } else if (steps >= hinted_list_length) {
+        hints.emplace(head, tail);
+    }
+}
 
 // Only the `next` member is used, so any record with one can be reversed.
 template <class Node> Node* recurse_brix_hdl_path_list(Node* node, Node* prev) {

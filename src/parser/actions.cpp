@@ -15,27 +15,13 @@ bool is_unused_or_reserved(const char* name) {
     return std::strcmp(name, "unused") == 0 || std::strcmp(name, "reserved") == 0;
 }
 
-// Appends to a list of records linked through `next`. The tail of each long list is
-// remembered under its first record, so that building long lists stays linear however
-// the appends to different lists interleave; short lists are walked.
+// Appends to a list of records linked through `next`.
 template <class T> void append_linked(T*& head, T* item) {
-    constexpr int hinted_list_length = 16;
     static std::unordered_map<const T*, T*> tails;
     if (head == nullptr) {
         head = item;
-        return;
-    }
-    const auto hint = tails.find(head);
-    T* tail = hint == tails.end() ? head : hint->second;
-    int steps = 0;
-    for (; tail->next != nullptr; ++steps) {
-        tail = tail->next;
-    }
-    tail->next = item;
-    if (hint != tails.end()) {
-        hint->second = item;
-    } else if (steps >= hinted_list_length) {
-        tails.emplace(head, item);
+    } else {
+        brix_link_at_tail(head, item, tails);
     }
 }
 
