@@ -158,6 +158,15 @@ TEST(ExpandRun, DocAndConstraintFlushWaitingResultsIntoThePureText) {
                   "\tconstraint c 6{\t\tx; \t}\n}\n\n\n");
 }
 
+// What Tcl's channel has written stands in the file before anything else writes there:
+// a child process given descriptor 1, and a `tell`, which counts all of it.
+TEST(ExpandRun, OtherWritersFollowWhatTclHasWritten) {
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nexec echo hi >@stdout\nbytes 2\n"),
+              hash(1) + "bytes 1 \nhi\n" + hash(3) + "bytes 2 \n");
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nset p [tell stdout]\nbytes $p\n"),
+              hash(1) + "bytes 1 \n" + hash(3) + "bytes 34 \n");
+}
+
 TEST(ExpandRun, FailuresEndTheRunAndRemoveThePureFile) {
     struct failure {
         const char* script;
