@@ -1,7 +1,11 @@
 #include "driver/diag.hpp"
 
+#include "expand/expand.hpp"
+
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <unistd.h>
 
 char pure_brix_file[100] = "";
@@ -11,6 +15,11 @@ FILE* brx_model_fp = nullptr;
 int brix_quiet_mode = 0;
 
 void brix_exit(int status) {
+    // The writers buffer: what they were given reaches its file on every way out.
+    brix_release_tcl_stdout();
+    if (brx_model_fp != nullptr) {
+        fflush(brx_model_fp);
+    }
     if (pure_brix_file[0] != '\0') {
         unlink(pure_brix_file);
     }
@@ -88,7 +97,10 @@ void brix_vemit(const char* fmt, brix_args args) {
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
     for (const char* p = fmt; *p != '\0'; ++p) {
         if (*p != '%') {
-            fputc(*p, out);
+            // The text up to the next directive in one piece.
+            const std::size_t run = strcspn(p, "%");
+            fwrite(p, 1, run, out);
+            p += run - 1;
             continue;
         }
         if (p[1] == '\0') {
@@ -125,19 +137,16 @@ void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
                         fprintf(out, *p == 'X' ? "%llX" : "%llu", a->as_unsigned());
                     }
                 } else {
-                    fflush(out);
                     brix_error("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n",
                                *p);
                 }
             } else {
-                fflush(out);
                 brix_error("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
             }
         } else {
             fputc(c, out);
         }
     }
-    fflush(out);
 }
 
 long long brix_pow(int32_t base, int32_t exponent) {
@@ -213,9 +222,58 @@ unsigned long long get_ceil(unsigned long long a, unsigned long long b) {
 void* brix_malloc(std::size_t size) {
     return malloc(size);
 }
-void brix_free(void* p) {
-    free(p);
-}
 char* brix_strdup(const char* s) {
     return strdup(s);
+}
+
+namespace {
+// The blocks of the arena, by address, each with its end.
+std::map<const char*, const char*>& arena_blocks() {
+    static std::map<const char*, const char*> blocks;
+    return blocks;
+}
+
+bool in_arena(const void* p) {
+    const auto& blocks = arena_blocks();
+    const char* c = static_cast<const char*>(p);
+    auto it = blocks.upper_bound(c);
+    return it != blocks.begin() && c < (--it)->second;
+}
+} // namespace
+
+void* brix_arena_alloc(std::size_t size, std::size_t alignment) {
+    constexpr std::size_t block_size = std::size_t{1} << 20;
+    static char* next = nullptr;
+    static std::size_t left = 0;
+    if (size > block_size / 4) {
+        return brix_malloc(size);
+    }
+    std::size_t pad = (alignment - reinterpret_cast<std::uintptr_t>(next) % alignment) % alignment;
+    if (next == nullptr || pad + size > left) {
+        // The rest of the block is left unused; a failed allocation gives null, as malloc.
+        next = static_cast<char*>(brix_malloc(block_size));
+        if (next == nullptr) {
+            left = 0;
+            return nullptr;
+        }
+        arena_blocks().emplace(next, next + block_size);
+        left = block_size;
+        pad = 0;
+    }
+    void* p = next + pad;
+    next += pad + size;
+    left -= pad + size;
+    return p;
+}
+
+char* brix_arena_strdup(const char* s) {
+    const std::size_t size = strlen(s) + 1;
+    auto* copy = static_cast<char*>(brix_arena_alloc(size, 1));
+    return copy != nullptr ? static_cast<char*>(memcpy(copy, s, size)) : nullptr;
+}
+
+void brix_free(void* p) {
+    if (!in_arena(p)) {
+        free(p);
+    }
 }

@@ -97,5 +97,10 @@ unsigned long long to_dec(const char* text);
 unsigned long long get_ceil(unsigned long long a, unsigned long long b);
 
 void* brix_malloc(std::size_t size);
+// Frees what brix_malloc or brix_strdup gave; leaves what the arena gave alone.
 void brix_free(void* p);
 char* brix_strdup(const char* s);
+// Memory for what lives until the process ends, the model and the words it is made of:
+// carved from big blocks, without the per-allocation overhead of malloc, and never freed.
+void* brix_arena_alloc(std::size_t size, std::size_t alignment);
+char* brix_arena_strdup(const char* s);

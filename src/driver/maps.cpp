@@ -4,6 +4,8 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
+#include <unordered_map>
 
 unsigned brix_hash_key(const char* key) {
     unsigned sum = 0;
@@ -25,8 +27,7 @@ template <class Map> void initialize_map(Map& map) {
 }
 
 template <class Map> auto* find_node(const Map& map, const char* key) {
-    const auto it = map.index.find(std::string_view(key));
-    return it == map.index.end() ? nullptr : it->second;
+    return map.index.find(key);
 }
 
 // Appends at the end of the key's chain; a key already present ends the run.
@@ -42,7 +43,7 @@ Node* add_node(Map& map, Node* node, const char* duplicate_message) {
         map.tails[b]->next = node;
     }
     map.tails[b] = node;
-    map.index.emplace(std::string_view(node->key), node);
+    map.index.insert(node);
     return node;
 }
 
@@ -111,7 +112,7 @@ brix_str2voidptr_map_node_tag* add_str2voidptr_map_entry(brix_str2voidptr_map& m
 void update_str2int_map(brix_str2int_map& map, char* key) {
     if (brix_str2int_map_node_tag* node = find_node(map, key)) {
         node->value += 1;
-        free(key);
+        brix_free(key);
         return;
     }
     add_str2int_map_entry(map, key, 1);
@@ -120,7 +121,7 @@ void update_str2int_map(brix_str2int_map& map, char* key) {
 void update_str2str_map_entry(brix_str2str_map& map, const char* key, char* value) {
     auto* node = find_for_update<brix_str2str_map, brix_str2str_map_node_tag>(
         map, key, "update_str2str_map_entry");
-    free(node->value);
+    brix_free(node->value);
     node->value = value;
 }
 
@@ -147,7 +148,7 @@ void* get_str2voidptr_map_value(const brix_str2voidptr_map& map, const char* key
 
 void free_str2int_map(brix_str2int_map& map) {
     free_map(map, [](brix_str2int_map_node_tag* n) {
-        free(n->key);
+        brix_free(n->key);
         delete n;
     });
 }
@@ -156,9 +157,9 @@ void free_str2str_map(brix_str2str_map& map, int mode) {
     free_map(map, [mode](brix_str2str_map_node_tag* n) {
         if (mode <= 1) {
             if (mode == 1) {
-                free(n->key);
+                brix_free(n->key);
             }
-            free(n->value);
+            brix_free(n->value);
         }
         delete n;
     });
@@ -167,7 +168,7 @@ void free_str2str_map(brix_str2str_map& map, int mode) {
 void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
     free_map(map, [mode](brix_str2voidptr_map_node_tag* n) {
         if (mode == 1) {
-            free(n->key);
+            brix_free(n->key);
         }
         delete n;
     });
@@ -176,7 +177,7 @@ void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
 // Lists ------------------------------------------------------------------------------
 //
 // Appending walks to the tail. To keep long lists linear, the last known tail of each
-// list is remembered by head. A hint is always a node of its list: lists only shrink
+// long list is remembered by head. A hint is always a node of its list: lists only shrink
 // through brix_list_pop and destroy_brix_list, which keep the hints right, so the walk
 // from a hint reaches the true tail even when someone linked nodes on by hand.
 
@@ -186,28 +187,14 @@ std::unordered_map<const brix_list_tag*, brix_list_tag*>& tail_hints() {
     return hints;
 }
 
-brix_list_tag* find_tail(brix_list_tag* head) {
-    auto& hints = tail_hints();
-    const auto it = hints.find(head);
-    brix_list_tag* tail = it == hints.end() ? head : it->second;
-    while (tail->next != nullptr) {
-        tail = tail->next;
-    }
-    return tail;
-}
-
 void link_at_tail(brix_list_tag* head, brix_list_tag* node) {
-    find_tail(head)->next = node;
-    brix_list_tag* tail = node;
-    while (tail->next != nullptr) {
-        tail = tail->next;
-    }
-    tail_hints()[head] = tail;
+    brix_link_at_tail(head, node, tail_hints());
 }
 } // namespace
 
 brix_list_tag* create_brix_list_node(int tag, void* data) {
-    return new brix_list_tag{tag, data, nullptr};
+    void* node = brix_arena_alloc(sizeof(brix_list_tag), alignof(brix_list_tag));
+    return new (node) brix_list_tag{tag, data, nullptr};
 }
 
 brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data) {
@@ -246,12 +233,8 @@ brix_list_tag* brix_list_pop(brix_list_tag** head) {
 }
 
 void destroy_brix_list(brix_list_tag* head) {
+    // The nodes live in the arena, with the model; only the list's hint goes.
     if (head != nullptr) {
         tail_hints().erase(head);
-    }
-    while (head != nullptr) {
-        brix_list_tag* next = head->next;
-        delete head;
-        head = next;
     }
 }

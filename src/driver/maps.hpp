@@ -6,9 +6,12 @@
 // descriptions; the chains alone decide every observable order.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 constexpr int BRIX_STR2INT_MAP_SIZE = 109;
 constexpr int BRIX_STR2STR_MAP_SIZE = 109;
@@ -30,10 +33,63 @@ struct brix_str2voidptr_map_node_tag {
     brix_str2voidptr_map_node_tag* next;
 };
 
+// The side index of a map: open addressing over the nodes themselves, a slot of one
+// pointer per node or two, as maps can hold a few entries for every register.
+template <class Node> class brix_key_index {
+  public:
+    Node* find(std::string_view key) const {
+        if (slots_.empty()) {
+            return nullptr;
+        }
+        for (std::size_t i = slot_of(key);; i = (i + 1) & (slots_.size() - 1)) {
+            if (slots_[i] == nullptr || key == slots_[i]->key) {
+                return slots_[i];
+            }
+        }
+    }
+    // The node's key must not be in the index yet.
+    void insert(Node* node) {
+        if ((count_ + 1) * 2 > slots_.size()) {
+            grow();
+        }
+        place(node);
+        ++count_;
+    }
+    void clear() {
+        slots_.clear();
+        slots_.shrink_to_fit();
+        count_ = 0;
+    }
+
+  private:
+    std::size_t slot_of(std::string_view key) const {
+        return std::hash<std::string_view>{}(key) & (slots_.size() - 1);
+    }
+    void place(Node* node) {
+        std::size_t i = slot_of(node->key);
+        while (slots_[i] != nullptr) {
+            i = (i + 1) & (slots_.size() - 1);
+        }
+        slots_[i] = node;
+    }
+    void grow() {
+        std::vector<Node*> old(std::max<std::size_t>(8, slots_.size() * 2), nullptr);
+        old.swap(slots_);
+        for (Node* node : old) {
+            if (node != nullptr) {
+                place(node);
+            }
+        }
+    }
+
+    std::vector<Node*> slots_;
+    std::size_t count_ = 0;
+};
+
 template <class Node, int N> struct brix_map {
     Node* buckets[N] = {};
     Node* tails[N] = {}; // last node of each chain, so that adding does not walk it
-    std::unordered_map<std::string_view, Node*> index;
+    brix_key_index<Node> index;
 };
 using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
 using brix_str2str_map = brix_map<brix_str2str_map_node_tag, BRIX_STR2STR_MAP_SIZE>;
@@ -76,6 +132,31 @@ brix_list_tag* add_to_brix_list_end(brix_list_tag* head, int tag, void* data);
 void brix_list_push(brix_list_tag** head, brix_list_tag* node);
 brix_list_tag* brix_list_pop(brix_list_tag** head);
 void destroy_brix_list(brix_list_tag* head);
+
+// Links `item`, which may lead a chain, behind the tail of the list that starts at `head`,
+// for any record linked through `next`. The tails of long lists are remembered in
+// `hints`, by head, so that building them stays linear however the appends to different
+// lists interleave; short lists (most: a register's fields) are walked, as a hint each
+// would cost more memory than the walk costs time.
+template <class T>
+void brix_link_at_tail(T* head, T* item, std::unordered_map<const T*, T*>& hints) {
+    constexpr int hinted_list_length = 16;
+    const auto hint = hints.find(head);
+    T* tail = hint == hints.end() ? head : hint->second;
+    int steps = 0;
+    for (; tail->next != nullptr; ++steps) {
+        tail = tail->next;
+    }
+    tail->next = item;
+    for (; tail->next != nullptr; ++steps) {
+        tail = tail->next;
+    }
+    if (hint != hints.end()) {
+        hint->second = tail;
+    } else if (steps >= hinted_list_length) {
+        hints.emplace(head, tail);
+    }
+}
 
 // Only the `next` member is used, so any record with one can be reversed.
 template <class Node> Node* recurse_brix_hdl_path_list(Node* node, Node* prev) {

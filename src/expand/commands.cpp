@@ -60,30 +60,53 @@ const description_command description_commands[] = {
 };
 
 // Writes pure text through Tcl; after the first failed evaluation every later step is
-// skipped and status() reports the failure.
+// skipped and status() reports the failure. Each piece is what evaluating a `puts` of it
+// writes; where that evaluation can only write the piece as it stands, pieces are
+// gathered and written to Tcl's channel in one go, before anything else can run.
 class pure_writer {
   public:
-    void eval(const std::string& script) {
-        if (!failed_ && brix_eval_checked(script) != TCL_OK) {
-            failed_ = true;
+    pure_writer() : direct_(brix_direct_writes()) {}
+    ~pure_writer() { drain(); }
+    pure_writer(const pure_writer&) = delete;
+    pure_writer& operator=(const pure_writer&) = delete;
+
+    // Writes `text`; `script()` gives the `puts` that writes it. An evaluation that fails
+    // stops the writer unless `ignored`.
+    template <class Script> void put(std::string_view text, Script script, bool ignored = false) {
+        if (failed_) {
+            return;
         }
+        if (direct_ != nullptr && brix_plain_text(text)) {
+            pending_ += text;
+            if (text.find('\n') != std::string_view::npos) {
+                flushed_ = pending_.size();
+            }
+            return;
+        }
+        drain();
+        eval(script(), ignored);
+    }
+    void put(std::string_view text, const char* script) {
+        put(text, [script] { return std::string(script); });
     }
     void word(const char* text) {
-        std::string script = "puts -nonewline \"";
         const std::size_t length = strlen(text);
-        if (length <= 1000) {
-            for (const char* p = text; *p != '\0'; ++p) {
-                if (*p == '"') {
-                    script += '\\';
+        const std::string plain = std::string(text, length) + ' ';
+        put(plain, [text, length] {
+            std::string script = "puts -nonewline \"";
+            if (length <= 1000) {
+                for (const char* p = text; *p != '\0'; ++p) {
+                    if (*p == '"') {
+                        script += '\\';
+                    }
+                    script += *p;
                 }
-                script += *p;
+            } else {
+                // Longer words go in as they stand: their quotes end the string.
+                script.append(text, length);
             }
-        } else {
-            // Longer words go in as they stand: their quotes end the string.
-            script.append(text, length);
-        }
-        script += " \"";
-        eval(script);
+            return script + " \"";
+        });
     }
     // Words first to last, the last excluded.
     void words(const char** argv, int first, int last) {
@@ -93,25 +116,66 @@ class pure_writer {
     }
     void indent() {
         if (brix_level > 0) {
-            eval("puts -nonewline \"" + std::string(static_cast<std::size_t>(brix_level), '\t') +
-                 "\"");
+            const std::string tabs(static_cast<std::size_t>(brix_level), '\t');
+            put(tabs, [&tabs] { return "puts -nonewline \"" + tabs + "\""; });
         }
     }
-    void newline() { eval("puts \"\""); }
+    void newline() { put("\n", "puts \"\""); }
+    // Writes what is gathered; before anything else may write or run. The line-buffered
+    // channel writes out all it holds after each write with a newline in it, so the text
+    // up to the end of the last such piece goes in one write and the rest in another.
+    void drain() {
+        const std::string text = std::move(pending_);
+        const std::size_t flushed = flushed_;
+        pending_.clear();
+        flushed_ = 0;
+        const std::string_view all(text);
+        for (const std::string_view part : {all.substr(0, flushed), all.substr(flushed)}) {
+            if (part.empty() || failed_) {
+                continue;
+            }
+            if (direct_ == nullptr || !brix_write_direct(direct_, part)) {
+                // Let `puts` meet the failure again and report it as it does.
+                eval("puts -nonewline \"" + std::string(part) + "\"", false);
+            }
+        }
+    }
+    // Evaluates a body, with what is gathered written first; its Check.
+    int eval_body(const char* body) {
+        drain();
+        const int status = brix_check_result(Tcl_Eval(brixgen_interp, body));
+        direct_ = brix_direct_writes();
+        return status;
+    }
     bool failed() const { return failed_; }
-    int status() const { return failed_ ? TCL_ERROR : TCL_OK; }
+    int status() {
+        drain();
+        return failed_ ? TCL_ERROR : TCL_OK;
+    }
 
   private:
+    void eval(const std::string& script, bool ignored) {
+        const int status = brix_eval_checked(script);
+        // The evaluation may have run any Tcl, `rename` and `close` among it.
+        direct_ = brix_direct_writes();
+        if (status != TCL_OK && !ignored) {
+            failed_ = true;
+        }
+    }
+
     bool failed_ = false;
+    Tcl_Channel direct_; // where plain pieces may go straight, or null
+    std::string pending_;
+    std::size_t flushed_ = 0; // end of the last piece with a newline in it
 };
 
-// The start of every declaration: its hash line, whose result is not looked at, and the
-// indent.
-pure_writer start_declaration(lineno_cache_entry* where = nullptr) {
-    emit_brix_hashline(where);
-    pure_writer w;
+// The start of every declaration: its hash line, whose evaluation is not looked at, and
+// the indent.
+void start_declaration(pure_writer& w, lineno_cache_entry* where = nullptr) {
+    const std::string text = brix_hashline_text(where);
+    w.put(
+        text + "\n", [&text] { return "puts \"" + text + "\""; }, true);
     w.indent();
-    return w;
 }
 
 // A last word with no blank, tab or newline in it, and not empty, is a plain word.
@@ -141,18 +205,19 @@ const char* write_head(pure_writer& w, int argc, const char** argv, int kept,
 
 int write_compound(const description_command& cmd, int argc, const char** argv) {
     lineno_cache_entry where{};
-    pure_writer w = start_declaration(&where);
+    pure_writer w;
+    start_declaration(w, &where);
     const char* body = write_head(w, argc, argv, 1, false);
     if (body == nullptr) {
         return w.status();
     }
-    w.eval("puts -nonewline \"{\\n\"");
+    w.put("{\n", "puts -nonewline \"{\\n\"");
     if (w.failed()) {
         return TCL_ERROR;
     }
     ++brix_level;
     brix_push_line_anchor(where);
-    const int status = brix_check_result(Tcl_Eval(brixgen_interp, body));
+    const int status = w.eval_body(body);
     brix_pop_line_anchor();
     if (status != TCL_OK) {
         // The level stays raised: the error ends the run unless the description catches it.
@@ -160,15 +225,16 @@ int write_compound(const description_command& cmd, int argc, const char** argv) 
     }
     --brix_level;
     w.indent();
-    w.eval("puts \"}\"");
+    w.put("}\n", "puts \"}\"");
     if (brix_level == 0 && cmd.gap_at_top) {
-        w.eval("puts \"\\n\"");
+        w.put("\n\n", "puts \"\\n\"");
     }
     return w.status();
 }
 
 int write_pair(const description_command& cmd, int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     w.word(cmd.word0 != nullptr ? cmd.word0 : argv[0]);
     if (argc > 1) {
         w.word(argv[1]);
@@ -178,30 +244,38 @@ int write_pair(const description_command& cmd, int argc, const char** argv) {
 }
 
 int write_single(int, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     w.word(argv[0]);
     w.newline();
     return w.status();
 }
 
 int write_all_words(int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     w.words(argv, 0, argc);
     w.newline();
     return w.status();
 }
 
 int write_braced(const description_command& cmd, int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     w.words(argv, 0, argc - 1);
-    w.eval("puts -nonewline \"{ \"");
+    w.put("{ ", "puts -nonewline \"{ \"");
     w.word(argv[argc - 1]);
-    w.eval(cmd.stays_on_line ? "puts -nonewline \" }\"" : "puts \" }\"");
+    if (cmd.stays_on_line) {
+        w.put(" }", "puts -nonewline \" }\"");
+    } else {
+        w.put(" }\n", "puts \" }\"");
+    }
     return w.status();
 }
 
 int write_bins(int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     w.words(argv, 0, argc - 1);
     const char* last = argv[argc - 1];
     if (strcmp(last, "default") == 0) {
@@ -216,19 +290,21 @@ int write_bins(int argc, const char** argv) {
         }
         values += *p;
     }
-    w.eval("puts -nonewline \"{ \"");
+    w.put("{ ", "puts -nonewline \"{ \"");
     w.word(values.c_str());
-    w.eval("puts \" }\"");
+    w.put(" }\n", "puts \" }\"");
     return w.status();
 }
 
 int write_doc(int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     const char* body = write_head(w, argc, argv, 1, true);
     if (body == nullptr) {
         return w.status();
     }
     // The text goes out as it stands, through stdio behind what Tcl has buffered.
+    w.drain();
     brix_flush_tcl_stdout();
     printf("{\n%s\n}\n", body);
     fflush(stdout);
@@ -270,12 +346,14 @@ void write_constraint_body(const char* body) {
 }
 
 int write_constraint(int argc, const char** argv) {
-    pure_writer w = start_declaration();
+    pure_writer w;
+    start_declaration(w);
     // The name is never taken for a body.
     const char* body = write_head(w, argc, argv, 2, false);
     if (body == nullptr) {
         return w.status();
     }
+    w.drain();
     brix_flush_tcl_stdout();
     write_constraint_body(body);
     return TCL_OK;

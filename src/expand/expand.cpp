@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 Tcl_Interp* brixgen_interp = nullptr;
+Tcl_Command tcl_puts = nullptr;
 const char* reading_brix_file = nullptr;
 unsigned long long brix_tcl_error_linenum = 0;
 char* user_pwd = nullptr;
@@ -122,6 +123,8 @@ struct reading_file_scope {
 void setup_interpreter() {
     brixgen_interp = Tcl_CreateInterp();
     Tcl_Init(brixgen_interp);
+    tcl_puts = Tcl_FindCommand(brixgen_interp, "::puts", nullptr, TCL_GLOBAL_ONLY);
+    brix_hold_tcl_stdout();
     for (const char* rename :
          {"rename source __brix_source_original__", "rename proc __brix_proc_original__"}) {
         if (brix_check_result(Tcl_Eval(brixgen_interp, rename)) != TCL_OK) {
@@ -149,27 +152,26 @@ void brix_fold_error_line(int error_line) {
 }
 
 void brix_flush_tcl_stdout() {
-    const int status = Tcl_Eval(brixgen_interp, "flush stdout");
+    static Tcl_Obj* const flush = brix_cached_obj("flush stdout");
+    const int status = Tcl_EvalObjEx(brixgen_interp, flush, 0);
     const char* result = Tcl_GetStringResult(brixgen_interp);
     if (status == TCL_ERROR) {
         fputs("ERROR: Interprator exited with an error while executing \"flush stdout\"\n", stderr);
         brix_exit(1);
     }
+    brix_release_tcl_stdout();
     if (*result != '\0') {
         fputs(result, stdout);
     }
 }
 
 void brix_print_result() {
-    // The flush replaces the interpreter's result, which must stand afterwards as the
-    // result of what was evaluated: `set v [source f]` takes the last result of f.
-    Tcl_Obj* result = Tcl_GetObjResult(brixgen_interp);
-    Tcl_IncrRefCount(result);
-    brix_flush_tcl_stdout();
-    fputs(Tcl_GetString(result), stdout);
-    fflush(stdout);
-    Tcl_SetObjResult(brixgen_interp, result);
-    Tcl_DecrRefCount(result);
+    // Through stdio and unflushed: the text waits in stdio's buffer until a `doc` or
+    // `constraint` flushes it into the pure text, or else reaches the user's standard
+    // output when the process ends. The result stays standing (`set v [source f]`).
+    // stdio may write to descriptor 1 now, behind what Tcl has written there.
+    brix_release_tcl_stdout();
+    fputs(Tcl_GetStringResult(brixgen_interp), stdout);
 }
 
 int brix_check_result(int status) {
@@ -188,6 +190,43 @@ int brix_check_result(int status) {
 
 int brix_eval_checked(const std::string& script) {
     return brix_check_result(Tcl_Eval(brixgen_interp, script.c_str()));
+}
+
+Tcl_Obj* brix_cached_obj(const char* script) {
+    Tcl_Obj* obj = Tcl_NewStringObj(script, -1);
+    Tcl_IncrRefCount(obj);
+    return obj;
+}
+
+bool brix_plain_text(std::string_view text) {
+    // In a double-quoted word only these substitute or end the word.
+    for (const char c : text) {
+        if (c == '$' || c == '[' || c == '\\' || c == '"') {
+            return false;
+        }
+    }
+    return true;
+}
+
+Tcl_Channel brix_direct_writes() {
+    // The `puts` that a script would call, found from the current namespace as Tcl finds
+    // it, must be Tcl's own, and it must find the channel writable.
+    static Tcl_Obj* const puts = brix_cached_obj("puts");
+    if (Tcl_GetCommandFromObj(brixgen_interp, puts) != tcl_puts) {
+        return nullptr;
+    }
+    int mode = 0;
+    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
+    return (mode & TCL_WRITABLE) != 0 ? out : nullptr;
+}
+
+bool brix_write_direct(Tcl_Channel out, std::string_view text) {
+    if (Tcl_WriteChars(out, text.data(), static_cast<int>(text.size())) < 0) {
+        return false;
+    }
+    // As after the evaluation of a `puts`.
+    Tcl_ResetResult(brixgen_interp);
+    return true;
 }
 
 int execute_brix_file(const char* path) {
@@ -263,7 +302,6 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     // Both of Tcl's stdout channel, made when first used, and stdio's stdout write into
     // the pure file, so descriptor 1 is moved before the interpreter exists.
-    fflush(stdout);
     const int user_stdout = dup(1);
     close(1);
     dup(fd);
@@ -290,8 +328,8 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
     free_str2str_map(all_procs_location_info, 1);
     free_str2int_map(all_purebrix_cmds);
 
+    // What stdio still holds is left for the user's standard output.
     brix_flush_tcl_stdout();
-    fflush(stdout);
     close(fd);
     close(1);
     dup(user_stdout);

@@ -4,6 +4,7 @@
 #include "driver/maps.hpp"
 
 #include <string>
+#include <string_view>
 #include <tcl.h>
 
 // Evaluates the description file and writes the pure description into pure_file.
@@ -39,8 +40,27 @@ void brix_fold_error_line(int error_line);
 int brix_check_result(int status);
 // Tcl_Eval followed by brix_check_result.
 int brix_eval_checked(const std::string& script);
-// Writes the interpreter's result into the pure text through stdio, after what Tcl has
-// buffered, and leaves the result as it was.
+// A Tcl object kept for the whole run: a fixed script, which Tcl then compiles once, or
+// a fixed word, which keeps what Tcl resolved it to.
+Tcl_Obj* brix_cached_obj(const char* script);
+// Text that a `puts -nonewline "<text>"` writes as it stands: nothing in it substitutes.
+bool brix_plain_text(std::string_view text);
+// The channel that such a `puts` would write to, when the `puts` is Tcl's own and the
+// channel writable, so that its text may be written straight to the channel instead;
+// else null. It stands until Tcl runs a script.
+Tcl_Channel brix_direct_writes();
+// Writes text straight to that channel, as such a `puts` would; false, when the write
+// fails, for the caller to evaluate the `puts` and report the failure as it does.
+bool brix_write_direct(Tcl_Channel out, std::string_view text);
+// Tcl's own `puts`, as found once the interpreter is set up.
+extern Tcl_Command tcl_puts;
+// Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
+// brix_release_tcl_stdout, a seek, a child process or the channel's end.
+void brix_hold_tcl_stdout();
+// Writes what Tcl's stdout holds to descriptor 1; called before anything else writes there.
+void brix_release_tcl_stdout();
+// Prints the interpreter's result through stdio without a flush, and leaves the result
+// as it was.
 void brix_print_result();
 // Evaluates "flush stdout" so that stdio may write behind Tcl's channel; fatal on error.
 void brix_flush_tcl_stdout();
@@ -62,8 +82,9 @@ void brix_clear_line_cache();
 // The line of the command being run; stores its file in *file_out, which the caller must
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
-// Writes one hash line. With `where`, also hands back the place it named.
-int emit_brix_hashline(lineno_cache_entry* where = nullptr);
+// The text of the hash line of the command being run, without its newline. With `where`,
+// also hands back the place it names.
+std::string brix_hashline_text(lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,

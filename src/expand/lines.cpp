@@ -18,6 +18,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <deque>
+#include <vector>
 
 namespace {
 
@@ -101,16 +102,55 @@ int brix_parse_info_frame_level_info(ClientData, Tcl_Interp*, int argc, const ch
     return TCL_OK;
 }
 
+namespace {
+// Hands the words of the `info frame` answer in the interpreter's result to the frame
+// parser. They are the words that evaluating "__brix_parse_info_frame_level_info__ <answer>"
+// would pass it, since a list's text reads back as the same words.
+int parse_frame_answer() {
+    Tcl_Obj* answer = Tcl_GetObjResult(brixgen_interp);
+    Tcl_IncrRefCount(answer);
+    int count = 0;
+    Tcl_Obj** elements = nullptr;
+    int status = Tcl_ListObjGetElements(brixgen_interp, answer, &count, &elements);
+    if (status == TCL_OK) {
+        std::vector<const char*> words;
+        words.reserve(static_cast<std::size_t>(count) + 1);
+        words.push_back("__brix_parse_info_frame_level_info__");
+        for (int i = 0; i < count; ++i) {
+            words.push_back(Tcl_GetString(elements[i]));
+        }
+        status = brix_parse_info_frame_level_info(nullptr, brixgen_interp,
+                                                  static_cast<int>(words.size()), words.data());
+    }
+    Tcl_DecrRefCount(answer);
+    return status;
+}
+} // namespace
+
+// Asks "info frame -1" from the command being run, for the frame of that command. When
+// `info` is still Tcl's own, its `frame` is called straight, with level 0, which names the
+// same frame there: the evaluation of the script would push a frame of its own.
+int query_frame() {
+    static Tcl_Obj* const query = brix_cached_obj("info frame -1");
+    static Tcl_Obj* const info = brix_cached_obj("info");
+    static Tcl_Obj* const frame_args[] = {brix_cached_obj("frame"), brix_cached_obj("0")};
+    static Tcl_Command tcl_info = nullptr;
+    static Tcl_CmdInfo tcl_frame{};
+    if (tcl_info == nullptr) {
+        tcl_info = Tcl_FindCommand(brixgen_interp, "::info", nullptr, TCL_GLOBAL_ONLY);
+        Tcl_GetCommandInfo(brixgen_interp, "::tcl::info::frame", &tcl_frame);
+    }
+    if (tcl_frame.objProc != nullptr && Tcl_GetCommandFromObj(brixgen_interp, info) == tcl_info) {
+        return tcl_frame.objProc(tcl_frame.objClientData, brixgen_interp, 2, frame_args);
+    }
+    return Tcl_EvalObjEx(brixgen_interp, query, 0);
+}
+
 int get_current_brix_file_line_num(const char** file_out) {
-    // Level -1 is the command whose procedure asks.
-    if (Tcl_Eval(brixgen_interp, "info frame -1") == TCL_ERROR &&
-        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+    if (query_frame() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
     }
-    const std::string parse =
-        std::string("__brix_parse_info_frame_level_info__ ") + Tcl_GetStringResult(brixgen_interp);
-    if (Tcl_Eval(brixgen_interp, parse.c_str()) == TCL_ERROR &&
-        *Tcl_GetStringResult(brixgen_interp) != '\0') {
+    if (parse_frame_answer() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
         return 1;
     }
     Tcl_ResetResult(brixgen_interp);
@@ -128,7 +168,7 @@ int get_current_brix_file_line_num(const char** file_out) {
     return line + anchor.file_line - anchor.frame_line;
 }
 
-int emit_brix_hashline(lineno_cache_entry* where) {
+std::string brix_hashline_text(lineno_cache_entry* where) {
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
@@ -137,7 +177,7 @@ int emit_brix_hashline(lineno_cache_entry* where) {
     if (where != nullptr) {
         *where = {1, line, file};
     }
-    return brix_eval_checked("puts \"BRIX_HASHLINE " + std::to_string(line) + " " + file + "\"");
+    return "BRIX_HASHLINE " + std::to_string(line) + " " + file;
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {

@@ -15,22 +15,14 @@ bool is_unused_or_reserved(const char* name) {
     return std::strcmp(name, "unused") == 0 || std::strcmp(name, "reserved") == 0;
 }
 
-// Appends to a list of records linked through `next`. The tail of each list is
-// remembered under its first record, so that building long lists stays linear however
-// the appends to different lists interleave.
+// Appends to a list of records linked through `next`.
 template <class T> void append_linked(T*& head, T* item) {
     static std::unordered_map<const T*, T*> tails;
     if (head == nullptr) {
         head = item;
     } else {
-        const auto hint = tails.find(head);
-        T* tail = hint == tails.end() ? head : hint->second;
-        while (tail->next != nullptr) {
-            tail = tail->next;
-        }
-        tail->next = item;
+        brix_link_at_tail(head, item, tails);
     }
-    tails[head] = item;
 }
 
 char* concat(std::initializer_list<const char*> parts) {
@@ -92,7 +84,7 @@ void open_definition_scope(const char* name) {
 }
 
 void close_definition_scope() {
-    switch_to_scope(current_scope->parent);
+    close_scope();
 }
 
 // hdl paths --------------------------------------------------------------------------

@@ -330,9 +330,10 @@ void initialize_system_domain_defaults(brix_system_domain_tag* d);
 void initialize_system_type_defaults(brix_system_type_tag* t);
 void initialize_system_defaults(brix_system_tag* s);
 
-// Allocates a record of type T from the model's allocator, uninitialised.
+// Allocates a record of type T from the model's allocator, uninitialised. Records live
+// until the process ends.
 template <class T> T* brix_new_record() {
-    return static_cast<T*>(brix_malloc(sizeof(T)));
+    return static_cast<T*>(brix_arena_alloc(sizeof(T), alignof(T)));
 }
 // A new spec with all three settings unsaid, as every default `cvr_used` is made.
 brix_cvr_spec_tag* new_all_unsaid_cvr_spec();

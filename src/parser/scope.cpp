@@ -20,30 +20,50 @@ std::unordered_map<std::string_view, brix_symrec*>& keyword_index() {
 }
 
 brix_scope* new_scope(const char* name) {
-    auto* scope = new brix_scope{};
-    scope->name = name != nullptr ? brix_strdup(name) : nullptr;
+    auto* scope = new (brix_new_record<brix_scope>()) brix_scope{};
+    scope->name = name != nullptr ? brix_arena_strdup(name) : nullptr;
     return scope;
 }
 
-// Links a symbol at the head of its bucket. A shared keyword symbol keeps its `next` when
-// the bucket is empty: it then still points where the identical insertion order put it.
-void link_symbol(brix_scope* scope, brix_symrec* sym) {
-    brix_symrec*& head = scope->buckets[brix_symbol_hash(sym->name)];
-    if (head != nullptr || sym->kind != BRIX_KEYWORD) {
-        sym->next = head;
+brix_symrec*& bucket_head(brix_scope* scope, unsigned bucket) {
+    for (auto& [b, head] : scope->bucket_heads) {
+        if (b == bucket) {
+            return head;
+        }
     }
+    if (scope->bucket_heads.empty()) {
+        scope->bucket_heads.reserve(4); // a register's fields, without regrowing
+    }
+    return scope->bucket_heads.emplace_back(static_cast<unsigned char>(bucket), nullptr).second;
+}
+
+// Links a symbol at the head of its bucket.
+void link_symbol(brix_scope* scope, brix_symrec* sym) {
+    brix_symrec*& head = bucket_head(scope, brix_symbol_hash(sym->name));
+    sym->next = head;
     head = sym;
 }
 
-void insert_keywords(brix_scope* scope) {
-    for (brix_symrec* sym : symrecs_for_keywords) {
-        link_symbol(scope, sym);
+// Past this many symbols a scope keeps an index instead of walking its chains.
+constexpr unsigned indexed_scope_size = 16;
+
+brix_symrec* own_symbol(const brix_scope* scope, const char* name) {
+    if (scope->newest != nullptr) {
+        const auto it = scope->newest->find(name);
+        return it == scope->newest->end() ? nullptr : it->second;
     }
+    for (brix_symrec* sym = scope_bucket_head(scope, brix_symbol_hash(name)); sym != nullptr;
+         sym = sym->next) {
+        if (std::strcmp(sym->name, name) == 0) {
+            return sym;
+        }
+    }
+    return nullptr;
 }
 
 brix_symrec* lookup_in(const brix_scope* scope, const char* name) {
-    if (const auto it = scope->newest.find(name); it != scope->newest.end()) {
-        return it->second;
+    if (brix_symrec* sym = own_symbol(scope, name)) {
+        return sym;
     }
     const auto& keywords = keyword_index();
     const auto it = keywords.find(name);
@@ -66,7 +86,8 @@ void initialize() {
     global_scope = new_scope(nullptr);
     keyword_index().clear();
     for (int i = 0; i < BRIX_NUM_KEYWORDS; ++i) {
-        auto* sym = new brix_symrec{brix_strdup(brix_keywords[i]), BRIX_KEYWORD, nullptr, nullptr};
+        auto* sym = new (brix_new_record<brix_symrec>())
+            brix_symrec{brix_strdup(brix_keywords[i]), BRIX_KEYWORD, nullptr, nullptr};
         symrecs_for_keywords[i] = sym;
         keyword_index().emplace(sym->name, sym);
         link_symbol(global_scope, sym);
@@ -75,9 +96,26 @@ void initialize() {
     reset_parse_state();
 }
 
+brix_symrec* scope_bucket_head(const brix_scope* scope, unsigned bucket) {
+    for (const auto& [b, head] : scope->bucket_heads) {
+        if (b == bucket) {
+            return head;
+        }
+    }
+    return nullptr;
+}
+
 brix_scope* create_child_scope(brix_scope* parent, const char* name) {
+    // Nothing can reach a closed scope that holds nothing (most fields' scopes): the next
+    // sibling takes its place instead of adding to the memory of every field.
+    if (brix_scope* last = parent->last_child; last != nullptr && last->closed &&
+                                               last->symbol_count == 0 &&
+                                               last->first_child == nullptr) {
+        last->name = brix_arena_strdup(name);
+        last->closed = false;
+        return last;
+    }
     brix_scope* scope = new_scope(name);
-    insert_keywords(scope);
     scope->parent = parent;
     if (parent->last_child == nullptr) {
         parent->first_child = scope;
@@ -92,10 +130,31 @@ void switch_to_scope(brix_scope* scope) {
     current_scope = scope;
 }
 
+void close_scope() {
+    current_scope->closed = true;
+    current_scope = current_scope->parent;
+}
+
 brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, void* data) {
-    auto* sym = new brix_symrec{name, kind, data, nullptr};
+    auto* sym = new (brix_new_record<brix_symrec>()) brix_symrec{name, kind, data, nullptr};
     link_symbol(scope, sym);
-    scope->newest[sym->name] = sym;
+    if (++scope->symbol_count == indexed_scope_size) {
+        // Oldest first, so that the newest of each name stays.
+        scope->newest = std::make_unique<std::unordered_map<std::string_view, brix_symrec*>>();
+        std::vector<brix_symrec*> symbols;
+        for (const auto& [bucket, head] : scope->bucket_heads) {
+            for (brix_symrec* s = head; s != nullptr; s = s->next) {
+                if (s->kind != BRIX_KEYWORD) {
+                    symbols.push_back(s);
+                }
+            }
+        }
+        for (auto it = symbols.rbegin(); it != symbols.rend(); ++it) {
+            (*scope->newest)[(*it)->name] = *it;
+        }
+    } else if (scope->newest != nullptr) {
+        (*scope->newest)[sym->name] = sym;
+    }
     return sym;
 }
 

@@ -89,15 +89,16 @@ inline expansion expand_in(const scratch_dir& dir, const std::string& top,
     return result;
 }
 
-// Expands a single top file "top.brix" holding `script`; the run must succeed.
-inline std::string expand_script(const std::string& script) {
+// Expands a single top file "top.brix" holding `script`; the run must succeed, and
+// `printed` is what its results left in stdio's buffer for the user's standard output.
+inline std::string expand_script(const std::string& script, const std::string& printed = "") {
     scratch_dir dir;
     dir.write("top.brix", script);
     const expansion run = expand_in(dir, "top.brix");
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "");
     // Descriptor 1 and the working folder are the user's again after the run.
-    EXPECT_EQ(run.out, std::filesystem::current_path().string() + "\n");
+    EXPECT_EQ(run.out, printed + std::filesystem::current_path().string() + "\n");
     return run.pure;
 }
 

@@ -136,13 +136,35 @@ TEST(ExpandRun, EmptyErrorStopsItsScriptButNotTheRun) {
                             hash(6) + "bytes 6 \n");
 }
 
-TEST(ExpandRun, TheScriptsLastResultIsPrinted) {
-    EXPECT_EQ(expand_test::expand_script("bytes 1\nset x 5\n"), hash(1) + "bytes 1 \n5");
+// Results go through stdio unflushed: they reach the user's standard output at the end,
+// unless a later doc or constraint flushes them into the pure text behind Tcl's output.
+TEST(ExpandRun, ResultsWaitInStdioForTheUsersOutput) {
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nset x 5\n", "5"), hash(1) + "bytes 1 \n");
+    EXPECT_EQ(expand_test::expand_script("block b {\n  bytes 1\n  set x 7\n}\nset y 8\n", "78"),
+              hash(1) + "block b {\n" + hash(2) + "\tbytes 1 \n}\n\n\n");
 }
 
-TEST(ExpandRun, ResultsOfBodiesAreWrittenInOrder) {
-    EXPECT_EQ(expand_test::expand_script("block b {\n  bytes 1\n  set x 7\n}\n"),
-              hash(1) + "block b {\n" + hash(2) + "\tbytes 1 \n7}\n\n\n");
+TEST(ExpandRun, DocAndConstraintFlushWaitingResultsIntoThePureText) {
+    EXPECT_EQ(expand_test::expand_script("register r {\n"
+                                         "  field f { set x 5 }\n"
+                                         "  doc {d}\n"
+                                         "  field g { set x 6 }\n"
+                                         "  constraint c { x; }\n"
+                                         "  set x 7\n"
+                                         "}\n",
+                                         "7"),
+              hash(1) + "register r {\n" + hash(2) + "\tfield f {\n\t}\n" + hash(3) +
+                  "\tdoc 5{\nd\n}\n" + hash(4) + "\tfield g {\n\t}\n" + hash(5) +
+                  "\tconstraint c 6{\t\tx; \t}\n}\n\n\n");
+}
+
+// What Tcl's channel has written stands in the file before anything else writes there:
+// a child process given descriptor 1, and a `tell`, which counts all of it.
+TEST(ExpandRun, OtherWritersFollowWhatTclHasWritten) {
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nexec echo hi >@stdout\nbytes 2\n"),
+              hash(1) + "bytes 1 \nhi\n" + hash(3) + "bytes 2 \n");
+    EXPECT_EQ(expand_test::expand_script("bytes 1\nset p [tell stdout]\nbytes $p\n"),
+              hash(1) + "bytes 1 \n" + hash(3) + "bytes 34 \n");
 }
 
 TEST(ExpandRun, FailuresEndTheRunAndRemoveThePureFile) {

@@ -54,12 +54,13 @@ TEST(ExpandSubscripts, SubscriptsReachThePureTextAsWritten) {
                                          "}\n"
                                          "set x [1]\n"
                                          "bytes $x[llength {a b}]\n"
-                                         "set z abc[12"),
+                                         "set z abc[12",
+                                         "abc"),
               expand_test::hash(1) + "register r[%d] {\n" + expand_test::hash(2) +
                   "\tfield f[3:0] {\n" + expand_test::hash(2) + "\t\tbits 4 \n\t}\n}\n\n\n" +
-                  expand_test::hash(5) + "bytes [1]2 \n" +
-                  // The script's last result is printed; the cut-off subscript is gone.
-                  "abc");
+                  // The script's last result, "abc", waits for the user's output; the
+                  // cut-off subscript is gone.
+                  expand_test::hash(5) + "bytes [1]2 \n");
 }
 
 } // namespace

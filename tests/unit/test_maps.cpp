@@ -123,7 +123,6 @@ TEST(Lists, AppendPushAndPopAtTheTail) {
 
     brix_list_tag* popped = brix_list_pop(&head);
     EXPECT_EQ(popped->tag, 4);
-    delete popped;
     add_to_brix_list_end(head, 5, nullptr); // the tail moved back and must be found
     EXPECT_EQ(tags(head), (std::vector<int>{1, 2, 3, 5}));
     destroy_brix_list(head);
@@ -138,10 +137,8 @@ TEST(Lists, PopOnOneNodeAndEmptyList) {
     brix_list_push(&head, create_brix_list_node(8, nullptr));
     brix_list_tag* last = brix_list_pop(&head);
     EXPECT_EQ(last->tag, 8);
-    delete last;
     EXPECT_EQ(brix_list_pop(&head), node);
     EXPECT_EQ(head, nullptr);
-    delete node;
     destroy_brix_list(nullptr);
 }
 

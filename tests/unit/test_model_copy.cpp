@@ -274,7 +274,9 @@ TEST(Scopes, HashBucketsAndLookups) {
     const brix_symrec* newer = create_and_insert_symrec(child, ab2, BRIX_ENUM_NAME, nullptr);
     EXPECT_EQ(lookup_local_symbol("ab"), newer);
     EXPECT_EQ(lookup_local_symbol("ba")->kind, BRIX_LABEL);
-    EXPECT_EQ(child->buckets[brix_symbol_hash("ab")], newer);
+    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("ab")), newer);
+    EXPECT_EQ(newer->next->next->name, std::string("ab"));
+    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("x")), nullptr);
     EXPECT_EQ(create_child_scope(global_scope, "d"), child->parent->first_child->next_sibling);
 }
 

@@ -1,0 +1,145 @@
+#!/usr/bin/env bash
+# Whole runs of big descriptions, side by side with the Tcl floor of the same script.
+#
+#   bench/scale_bench.sh [brixgen binary]
+#
+# Without a binary, a release build is made in build/bench. BRIX_BENCH_SIZES picks the
+# register counts (default 25000 100000 400000 1000000), BRIX_BENCH_SHAPES the shapes
+# (default "flat chip"). Each description is written here, as a small Tcl script:
+#   flat  one block of N inline registers of 4 fields each, made by a `for` loop calling a
+#         procedure;
+#   chip  a system of 16 blocks, each with a register array, an array of regfiles, a memory
+#         and registers made by a procedure, all with hdl paths.
+# Each runs without and with `-c baf`; the coverage models add about 8 KB of output per
+# register, so the runs with them stop at BRIX_BENCH_COVER_MAX registers (default 100000).
+# The floor is plain tclsh evaluating the same script
+# with every description command a procedure that appends its words to a list and
+# evaluates its body. Not a test: the figures depend on the machine.
+set -eu
+cd "$(dirname "$0")/.."
+bin=${1:-}
+if [ -z "$bin" ]; then
+    cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DBRIX_TESTS=OFF >/dev/null
+    cmake --build build/bench -j2 --target brixgen >/dev/null
+    bin=build/bench/brixgen
+fi
+bin=$(readlink -f "$bin")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+write_flat() { # registers
+    cat <<EOF
+proc mkreg {i} {
+    register r\$i (r\${i}_q) {
+        bytes 4
+        field a { bits 8; access rw; hard_reset 0 }
+        field b { bits 8; access ro }
+        field c { bits 8; access rw; hard_reset 0x5 }
+        field d { bits 8; access wo }
+    }
+}
+block top {
+    bytes 4
+    for {set i 0} {\$i < $1} {incr i} {
+        mkreg \$i
+    }
+}
+EOF
+}
+
+write_chip() { # registers
+    # 16 blocks; in each: 8 array elements, a quarter in a regfile array of 4, the rest
+    # made by the procedure.
+    local per_block=$(($1 / 16))
+    local in_regfile=$((per_block / 16))
+    local flat=$((per_block - 8 - 4 * in_regfile))
+    cat <<EOF
+proc mkregs {prefix n} {
+    for {set i 0} {\$i < \$n} {incr i} {
+        register \${prefix}_r\$i (\${prefix}_r\${i}_q) {
+            bytes 4
+            field f (f_q) { bits 16; access rw; hard_reset 0 }
+            field g (g_q) { bits 16; access ro }
+        }
+    }
+}
+for {set b 0} {\$b < 16} {incr b} {
+    block blk\$b {
+        bytes 4
+        register ctrl[8] (ctrl_q[%d]) {
+            bytes 4
+            field en (en_q) { bits 1; access rw }
+            field mode (mode_q) @4 { bits 3 }
+        }
+        regfile ch[4] (u_ch%d) {
+            for {set i 0} {\$i < $in_regfile} {incr i} {
+                register c\$i (c\${i}_q) { bytes 4; field v (v_q) { bits 32 } }
+            }
+        }
+        memory buf (buf_mem) { size 1024; bits 32; access rw }
+        mkregs b\$b $flat
+    }
+}
+system top {
+    bytes 4
+    for {set b 0} {\$b < 16} {incr b} {
+        block blk\$b = u\$b (u_blk\$b)
+    }
+}
+EOF
+}
+
+# The floor: the same script under plain tclsh, its array subscripts protected the way
+# brixgen protects them.
+write_floor() {
+    cat <<'EOF'
+set brix_words {}
+foreach cmd {system block register virtual field bits attributes doc constraint bytes size
+             endian left_to_right access reset hard_reset soft_reset initial noise shared
+             memory regfile domain cover cross label enum coverpoint bins} {
+    set evaluates [expr {$cmd ni {doc constraint enum attributes bins}}]
+    proc $cmd args [string map [list @CMD@ $cmd @EVAL@ $evaluates] {
+        lappend ::brix_words [linsert $args 0 @CMD@]
+        set last [lindex $args end]
+        if {@EVAL@ && [llength $args] > 1 && ($last eq "" || [regexp {[ \t\n]} $last])} {
+            uplevel 1 $last
+        }
+    }]
+}
+set f [open [lindex $argv 0]]
+set text [read $f]
+close $f
+regsub -all {\[([0-9:%d]*)\]} $text {\\[\1\\]} text
+eval $text
+EOF
+}
+
+# Runs a command under /usr/bin/time; prints "<seconds> <peak MB>".
+measure() {
+    /usr/bin/time -f "%e %M" -o "$work/time" "$@" >/dev/null 2>"$work/err" ||
+        { cat "$work/err" >&2; exit 1; }
+    awk '{ printf "%s %.0f\n", $1, $2 / 1024 }' "$work/time"
+}
+
+write_floor >"$work/floor.tcl"
+printf "%-5s %9s %-6s %9s %9s %9s %7s %9s\n" shape registers cover "wall s" "peak MB" \
+    "floor s" ratio "output MB"
+for shape in ${BRIX_BENCH_SHAPES:-flat chip}; do
+    for n in ${BRIX_BENCH_SIZES:-25000 100000 400000 1000000}; do
+        file="$work/${shape}_$n.brix"
+        "write_$shape" "$n" >"$file"
+        read -r floor _ < <(measure tclsh "$work/floor.tcl" "$file")
+        for cover in "" baf; do
+            [ -n "$cover" ] && [ "$n" -gt "${BRIX_BENCH_COVER_MAX:-100000}" ] && continue
+            rm -rf "$work/out" && mkdir "$work/out"
+            args=(-q -l sv -t top)
+            [ -n "$cover" ] && args+=(-c "$cover")
+            read -r wall peak < <(cd "$work/out" && measure "$bin" "${args[@]}" "$file")
+            size=$(du -cb "$work/out"/* | awk 'END { printf "%.0f", $1 / 1e6 }')
+            awk -v s="$shape" -v n="$n" -v c="${cover:--}" -v w="$wall" -v p="$peak" \
+                -v f="$floor" -v o="$size" 'BEGIN {
+                    printf "%-5s %9d %-6s %9.2f %9d %9.2f %7.1f %9d\n",
+                        s, n, c, w, p, f, (f > 0 ? w / f : 0), o }'
+        done
+    done
+done

@@ -1,0 +1,178 @@
+// Tcl's stdout channel is line buffered, so on its own it makes one write to descriptor 1
+// for every line of the pure text. A thin channel stacked on it takes what Tcl hands down
+// at each of those points and holds it, and writes it to the channel below in big pieces.
+// What reaches the file is the same, and in the same place: the held bytes go down before
+// anything else can write to descriptor 1 (stdio, a child process started by `exec` or
+// `open`, a seek, the end of the channel, the end of the run).
+#include "expand/expand.hpp"
+
+#include <cerrno>
+#include <string>
+
+namespace {
+
+constexpr std::size_t held_limit = std::size_t{1} << 20;
+
+Tcl_Channel below = nullptr;
+std::string held;
+// Once the descriptor has been handed out (to a child process), every write goes straight
+// down, as without this channel.
+bool write_through = false;
+
+int write_down(const char* bytes, int count) {
+    return Tcl_WriteRaw(below, bytes, count);
+}
+
+void release() {
+    if (!held.empty()) {
+        write_down(held.data(), static_cast<int>(held.size()));
+        held.clear();
+    }
+}
+
+int held_close(ClientData, Tcl_Interp*) {
+    release();
+    return 0;
+}
+
+int held_input(ClientData, char*, int, int* error) {
+    *error = EINVAL;
+    return -1;
+}
+
+int held_output(ClientData, const char* bytes, int count, int* error) {
+    if (write_through) {
+        const int written = write_down(bytes, count);
+        if (written < 0) {
+            *error = Tcl_GetErrno();
+        }
+        return written;
+    }
+    held.append(bytes, static_cast<std::size_t>(count));
+    if (held.size() >= held_limit) {
+        release();
+    }
+    return count;
+}
+
+ClientData below_data() {
+    return Tcl_GetChannelInstanceData(below);
+}
+const Tcl_ChannelType* below_type() {
+    return Tcl_GetChannelType(below);
+}
+
+Tcl_WideInt held_wide_seek(ClientData, Tcl_WideInt offset, int mode, int* error) {
+    release();
+    if (Tcl_DriverWideSeekProc* seek = Tcl_ChannelWideSeekProc(below_type())) {
+        return seek(below_data(), offset, mode, error);
+    }
+    if (Tcl_DriverSeekProc* seek = Tcl_ChannelSeekProc(below_type())) {
+        return seek(below_data(), static_cast<long>(offset), mode, error);
+    }
+    *error = EINVAL;
+    return -1;
+}
+
+int held_seek(ClientData data, long offset, int mode, int* error) {
+    return static_cast<int>(held_wide_seek(data, offset, mode, error));
+}
+
+int held_set_option(ClientData, Tcl_Interp* interp, const char* name, const char* value) {
+    if (Tcl_DriverSetOptionProc* set = Tcl_ChannelSetOptionProc(below_type())) {
+        return set(below_data(), interp, name, value);
+    }
+    return Tcl_BadChannelOption(interp, name, nullptr);
+}
+
+int held_get_option(ClientData, Tcl_Interp* interp, const char* name, Tcl_DString* value) {
+    if (Tcl_DriverGetOptionProc* get = Tcl_ChannelGetOptionProc(below_type())) {
+        return get(below_data(), interp, name, value);
+    }
+    return name == nullptr ? TCL_OK : Tcl_BadChannelOption(interp, name, nullptr);
+}
+
+void held_watch(ClientData, int mask) {
+    if (Tcl_DriverWatchProc* watch = Tcl_ChannelWatchProc(below_type())) {
+        watch(below_data(), mask);
+    }
+}
+
+int held_get_handle(ClientData, int direction, ClientData* handle) {
+    return Tcl_GetChannelHandle(below, direction, handle);
+}
+
+int held_block_mode(ClientData, int mode) {
+    if (Tcl_DriverBlockModeProc* block = Tcl_ChannelBlockModeProc(below_type())) {
+        return block(below_data(), mode);
+    }
+    return 0;
+}
+
+int held_handler(ClientData, int mask) {
+    return mask;
+}
+
+int held_truncate(ClientData, Tcl_WideInt length) {
+    release();
+    if (Tcl_DriverTruncateProc* truncate = Tcl_ChannelTruncateProc(below_type())) {
+        return truncate(below_data(), length);
+    }
+    return EINVAL;
+}
+
+const Tcl_ChannelType held_channel_type = {
+    "held",    TCL_CHANNEL_VERSION_5, held_close,      held_input,   held_output,
+    held_seek, held_set_option,       held_get_option, held_watch,   held_get_handle,
+    nullptr,   held_block_mode,       nullptr,         held_handler, held_wide_seek,
+    nullptr,   held_truncate,
+};
+
+// Tcl's `exec` and `open`, which can start child processes that inherit descriptor 1.
+struct tcl_command {
+    Tcl_ObjCmdProc* proc = nullptr;
+    ClientData data = nullptr;
+};
+tcl_command tcl_exec;
+tcl_command tcl_open;
+
+// Runs Tcl's own command; before a child process can write to descriptor 1, what is held
+// goes there, and from then on nothing is held, as the child may go on writing.
+int child_starting_command(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+    const tcl_command& original = *static_cast<const tcl_command*>(data);
+    if (&original == &tcl_exec || (objc > 1 && Tcl_GetString(objv[1])[0] == '|')) {
+        release();
+        write_through = true;
+    }
+    return original.proc(original.data, interp, objc, objv);
+}
+
+void wrap_command(const char* name, tcl_command& original) {
+    Tcl_CmdInfo info;
+    if (Tcl_GetCommandInfo(brixgen_interp, name, &info) == 0 || info.objProc == nullptr) {
+        return;
+    }
+    original = {info.objProc, info.objClientData};
+    Tcl_CreateObjCommand(brixgen_interp, name, child_starting_command, &original, nullptr);
+}
+
+} // namespace
+
+void brix_hold_tcl_stdout() {
+    const Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT);
+    if (out == nullptr) {
+        return;
+    }
+    below = out;
+    held.clear();
+    write_through = false;
+    Tcl_StackChannel(brixgen_interp, &held_channel_type, nullptr, TCL_WRITABLE, out);
+    wrap_command("exec", tcl_exec);
+    wrap_command("open", tcl_open);
+}
+
+void brix_release_tcl_stdout() {
+    if (below != nullptr) {
+        release();
+    }
+}
