@@ -48,7 +48,7 @@ std::string backdoor_text(const std::string& model) {
         }
         if (in_class) {
             classes += line + "\n";
-            in_class = line != "endclass";
+            in_class = line != "endclass" && line != "}";
         }
         if (line == "\t\tthis.Xlock_modelX();") {
             in_ctor = false;
