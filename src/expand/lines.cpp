@@ -226,15 +226,17 @@ bool place_frame_directly() {
         return false;
     }
     // The procedure the frame runs in, by its full name, as `info frame` names it.
+    // Only a frame of type "proc" is placed from it.
+    const bool proc_type = where.type == TCL_LOCATION_PROC;
     const char* proc = nullptr;
     const Proc* proc_ptr = frame->framePtr != nullptr ? frame->framePtr->procPtr : nullptr;
-    if (proc_ptr != nullptr && proc_ptr->cmdPtr->hPtr != nullptr) {
+    if (proc_type && proc_ptr != nullptr && proc_ptr->cmdPtr->hPtr != nullptr) {
         Tcl_SetObjLength(proc_name, 0);
         Tcl_GetCommandFullName(brixgen_interp, reinterpret_cast<Tcl_Command>(proc_ptr->cmdPtr),
                                proc_name);
         proc = Tcl_GetString(proc_name);
     }
-    place_frame(where.type == TCL_LOCATION_PROC, line, cmd, proc);
+    place_frame(proc_type, line, cmd, proc);
     return true;
 }
 } // namespace
