@@ -221,7 +221,11 @@ Tcl_Channel brix_direct_writes() {
 }
 
 bool brix_write_direct(Tcl_Channel out, std::string_view text) {
-    if (Tcl_WriteChars(out, text.data(), static_cast<int>(text.size())) < 0) {
+    const int length = static_cast<int>(text.size());
+    const int written = brix_passes_unconverted(out, text)
+                            ? Tcl_Write(out, text.data(), length)
+                            : Tcl_WriteChars(out, text.data(), length);
+    if (written < 0) {
         return false;
     }
     // As after the evaluation of a `puts`.

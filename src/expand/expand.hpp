@@ -52,6 +52,9 @@ Tcl_Channel brix_direct_writes();
 // Writes text straight to that channel, as such a `puts` would; false, when the write
 // fails, for the caller to evaluate the `puts` and report the failure as it does.
 bool brix_write_direct(Tcl_Channel out, std::string_view text);
+// True when the channel would write `text` as it stands (ASCII only, into an encoding
+// that keeps ASCII, newlines left alone), so that it may skip the conversion.
+bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
 // Tcl's own `puts`, as found once the interpreter is set up.
 extern Tcl_Command tcl_puts;
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until

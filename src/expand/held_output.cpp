@@ -6,8 +6,12 @@
 // `open`, a seek, the end of the channel, the end of the run).
 #include "expand/expand.hpp"
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <string>
+#include <tclInt.h>
+#include <tclIO.h>
 
 namespace {
 
@@ -175,4 +179,20 @@ void brix_release_tcl_stdout() {
     if (below != nullptr) {
         release();
     }
+}
+
+// The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
+// fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
+bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
+    static const Tcl_Encoding unchanged[] = {Tcl_GetEncoding(nullptr, "utf-8"),
+                                             Tcl_GetEncoding(nullptr, "iso8859-1"),
+                                             Tcl_GetEncoding(nullptr, "ascii")};
+    const ChannelState* state = reinterpret_cast<Channel*>(out)->state;
+    if (state->outputTranslation != TCL_TRANSLATE_LF ||
+        std::find(std::begin(unchanged), std::end(unchanged), state->encoding) ==
+            std::end(unchanged)) {
+        return false;
+    }
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }

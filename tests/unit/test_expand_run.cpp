@@ -54,6 +54,18 @@ TEST(ExpandLines, NestedBodiesAndLoopsCountFromTheFile) {
                      "17 top.brix", "19 top.brix", "22 top.brix"}));
 }
 
+// A coroutine stitches its frames onto its caller's; a procedure run in one is still placed
+// from its definition.
+TEST(ExpandLines, ProcInCoroutineCountsFromTheDefinition) {
+    EXPECT_EQ(hash_lines(expand_test::expand_script("proc mk {} {\n"
+                                                    "  bytes 1\n"
+                                                    "}\n"
+                                                    "block b {\n"
+                                                    "  coroutine co mk\n"
+                                                    "}\n")),
+              (lines{"4 top.brix", "2 top.brix"}));
+}
+
 TEST(ExpandLines, ProcBodiesCountFromTheDefinitionNotTheCall) {
     scratch_dir dir;
     dir.write("top.brix", "# procedures\n"
