@@ -10,8 +10,10 @@ bison_target(brix_grammar ${CMAKE_SOURCE_DIR}/src/parser/grammar.y
              ${BRIX_PARSER_GEN_DIR}/grammar.cpp
              DEFINES_FILE ${BRIX_PARSER_GEN_DIR}/grammar.hpp
              COMPILE_FLAGS "-Wall -Wno-other")
+# Full, uncompressed tables, 8-bit so that every byte value has its row: the scanner reads
+# every byte of the pure description, and big descriptions run to a gigabyte.
 flex_target(brix_scanner ${CMAKE_SOURCE_DIR}/src/parser/scanner.l
-            ${BRIX_PARSER_GEN_DIR}/scanner.cpp)
+            ${BRIX_PARSER_GEN_DIR}/scanner.cpp COMPILE_FLAGS "-Cf -8")
 add_flex_bison_dependency(brix_scanner brix_grammar)
 
 set(BRIX_PARSER_GENERATED ${BISON_brix_grammar_OUTPUTS} ${FLEX_brix_scanner_OUTPUTS})
