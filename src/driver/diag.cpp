@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <string>
 #include <unistd.h>
 
 char pure_brix_file[100] = "";
@@ -99,7 +100,7 @@ void brix_vemit(const char* fmt, brix_args args) {
 namespace {
 // Writes a number as printf's %d, %u or %X would: the writer's hot path, where a printf
 // per number would cost more than the rest of the line.
-template <class Number> void put_number(FILE* out, Number value, int base) {
+template <class Number> void put_number(std::string& out, Number value, int base) {
     char text[24];
     const auto end = std::to_chars(text, text + sizeof text, value, base).ptr;
     if (base == 16) {
@@ -107,17 +108,25 @@ template <class Number> void put_number(FILE* out, Number value, int base) {
             *c = static_cast<char>(toupper(static_cast<unsigned char>(*c)));
         }
     }
-    fwrite_unlocked(text, 1, static_cast<std::size_t>(end - text), out);
+    out.append(text, end);
 }
 } // namespace
 
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
+    // The text of one call is put together here and handed to stdio in one piece: a call
+    // into stdio per piece would cost more than the pieces.
+    static std::string text;
+    text.clear();
+    const auto fail = [out](const char* message, char c) {
+        fwrite_unlocked(text.data(), 1, text.size(), out);
+        brix_error(message, c);
+    };
     for (const char* p = fmt; *p != '\0'; ++p) {
         if (*p != '%') {
             // The text up to the next directive in one piece.
-            const std::size_t run = strcspn(p, "%");
-            fwrite_unlocked(p, 1, run, out);
-            p += run - 1;
+            const char* stop = strchrnul(p, '%');
+            text.append(p, stop);
+            p = stop - 1;
             continue;
         }
         if (p[1] == '\0') {
@@ -127,43 +136,46 @@ void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
         const char c = *p;
         if (c == 's') {
             if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
-                fputs_unlocked(a->s, out);
+                text += a->s;
             }
         } else if (c == 'c') {
             if (const brix_arg* a = args.take()) {
-                fputc_unlocked(static_cast<char>(a->as_signed()), out);
+                text += static_cast<char>(a->as_signed());
             }
         } else if (c == 'd') {
             if (const brix_arg* a = args.take()) {
-                put_number(out, static_cast<int>(a->as_signed()), 10);
+                put_number(text, static_cast<int>(a->as_signed()), 10);
             }
         } else if (c == 'f') {
             if (const brix_arg* a = args.take()) {
-                fprintf(out, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+                char number[400];
+                const int length =
+                    snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+                text.append(number, static_cast<std::size_t>(length));
             }
         } else if (c == 'l') {
             ++p;
             if (*p == 'X') {
                 if (const brix_arg* a = args.take()) {
-                    put_number(out, static_cast<uint32_t>(a->as_unsigned()), 16);
+                    put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
                 }
             } else if (*p == 'l') {
                 ++p;
                 if (*p == 'X' || *p == 'u') {
                     if (const brix_arg* a = args.take()) {
-                        put_number(out, a->as_unsigned(), *p == 'X' ? 16 : 10);
+                        put_number(text, a->as_unsigned(), *p == 'X' ? 16 : 10);
                     }
                 } else {
-                    brix_error("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n",
-                               *p);
+                    fail("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n", *p);
                 }
             } else {
-                brix_error("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
+                fail("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
             }
         } else {
-            fputc(c, out);
+            text += c;
         }
     }
+    fwrite_unlocked(text.data(), 1, text.size(), out);
 }
 
 long long brix_pow(int32_t base, int32_t exponent) {

@@ -65,7 +65,7 @@ const description_command description_commands[] = {
 // gathered and written to Tcl's channel in one go, before anything else can run.
 class pure_writer {
   public:
-    pure_writer() : direct_(brix_direct_writes()) {}
+    pure_writer() : direct_(brix_direct_writes()) { pending_.reserve(pending_capacity); }
     ~pure_writer() { drain(); }
     pure_writer(const pure_writer&) = delete;
     pure_writer& operator=(const pure_writer&) = delete;
@@ -73,14 +73,7 @@ class pure_writer {
     // Writes `text`; `script()` gives the `puts` that writes it. An evaluation that fails
     // stops the writer unless `ignored`.
     template <class Script> void put(std::string_view text, Script script, bool ignored = false) {
-        if (failed_) {
-            return;
-        }
-        if (direct_ != nullptr && brix_plain_text(text)) {
-            pending_ += text;
-            if (text.find('\n') != std::string_view::npos) {
-                flushed_ = pending_.size();
-            }
+        if (failed_ || gather(text)) {
             return;
         }
         drain();
@@ -91,8 +84,10 @@ class pure_writer {
     }
     void word(const char* text) {
         const std::size_t length = strlen(text);
-        const std::string plain = std::string(text, length) + ' ';
-        put(plain, [text, length] {
+        if (failed_ || gather({text, length}, " ")) {
+            return;
+        }
+        put(std::string(text, length) + ' ', [text, length] {
             std::string script = "puts -nonewline \"";
             if (length <= 1000) {
                 for (const char* p = text; *p != '\0'; ++p) {
@@ -125,12 +120,8 @@ class pure_writer {
     // channel writes out all it holds after each write with a newline in it, so the text
     // up to the end of the last such piece goes in one write and the rest in another.
     void drain() {
-        const std::string text = std::move(pending_);
-        const std::size_t flushed = flushed_;
-        pending_.clear();
-        flushed_ = 0;
-        const std::string_view all(text);
-        for (const std::string_view part : {all.substr(0, flushed), all.substr(flushed)}) {
+        const std::string_view all(pending_);
+        for (const std::string_view part : {all.substr(0, flushed_), all.substr(flushed_)}) {
             if (part.empty() || failed_) {
                 continue;
             }
@@ -139,6 +130,8 @@ class pure_writer {
                 eval("puts -nonewline \"" + std::string(part) + "\"", false);
             }
         }
+        pending_.clear();
+        flushed_ = 0;
     }
     // Evaluates a body, with what is gathered written first; its Check.
     int eval_body(const char* body) {
@@ -154,6 +147,19 @@ class pure_writer {
     }
 
   private:
+    // Gathers `text` and `tail` when they may go straight to the channel.
+    bool gather(std::string_view text, std::string_view tail = {}) {
+        if (direct_ == nullptr || !brix_plain_text(text) || !brix_plain_text(tail)) {
+            return false;
+        }
+        pending_ += text;
+        pending_ += tail;
+        if (text.find('\n') != std::string_view::npos ||
+            tail.find('\n') != std::string_view::npos) {
+            flushed_ = pending_.size();
+        }
+        return true;
+    }
     void eval(const std::string& script, bool ignored) {
         const int status = brix_eval_checked(script);
         // The evaluation may have run any Tcl, `rename` and `close` among it.
@@ -163,6 +169,8 @@ class pure_writer {
         }
     }
 
+    // Room for a declaration's hash line and words, without regrowing.
+    static constexpr std::size_t pending_capacity = 256;
     bool failed_ = false;
     Tcl_Channel direct_; // where plain pieces may go straight, or null
     std::string pending_;
@@ -172,9 +180,13 @@ class pure_writer {
 // The start of every declaration: its hash line, whose evaluation is not looked at, and
 // the indent.
 void start_declaration(pure_writer& w, lineno_cache_entry* where = nullptr) {
-    const std::string text = brix_hashline_text(where);
+    // Kept from one declaration to the next for its storage; the `puts` is made from it
+    // before anything is evaluated.
+    static std::string text;
+    brix_hashline_text(text, where);
+    text += '\n';
     w.put(
-        text + "\n", [&text] { return "puts \"" + text + "\""; }, true);
+        text, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
     w.indent();
 }
 

@@ -5,6 +5,8 @@
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -200,12 +202,15 @@ Tcl_Obj* brix_cached_obj(const char* script) {
 
 bool brix_plain_text(std::string_view text) {
     // In a double-quoted word only these substitute or end the word.
-    for (const char c : text) {
-        if (c == '$' || c == '[' || c == '\\' || c == '"') {
-            return false;
+    static constexpr auto special = [] {
+        std::array<bool, 256> table{};
+        for (const unsigned char c : {'$', '[', '\\', '"'}) {
+            table[c] = true;
         }
-    }
-    return true;
+        return table;
+    }();
+    return std::none_of(text.begin(), text.end(),
+                        [](char c) { return special[static_cast<unsigned char>(c)]; });
 }
 
 Tcl_Channel brix_direct_writes() {
@@ -221,10 +226,14 @@ Tcl_Channel brix_direct_writes() {
 }
 
 bool brix_write_direct(Tcl_Channel out, std::string_view text) {
+    const bool unconverted = brix_passes_unconverted(out, text);
+    if (unconverted && brix_hold_directly(out, text)) {
+        Tcl_ResetResult(brixgen_interp);
+        return true;
+    }
     const int length = static_cast<int>(text.size());
-    const int written = brix_passes_unconverted(out, text)
-                            ? Tcl_Write(out, text.data(), length)
-                            : Tcl_WriteChars(out, text.data(), length);
+    const int written = unconverted ? Tcl_Write(out, text.data(), length)
+                                    : Tcl_WriteChars(out, text.data(), length);
     if (written < 0) {
         return false;
     }

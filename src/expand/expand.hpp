@@ -62,6 +62,9 @@ extern Tcl_Command tcl_puts;
 void brix_hold_tcl_stdout();
 // Writes what Tcl's stdout holds to descriptor 1; called before anything else writes there.
 void brix_release_tcl_stdout();
+// Takes `text`, which passes unconverted, as Tcl_Write on the holding channel would end by
+// taking it, when that is so; false when the channel must write it itself.
+bool brix_hold_directly(Tcl_Channel out, std::string_view text);
 // Prints the interpreter's result through stdio without a flush, and leaves the result
 // as it was.
 void brix_print_result();
@@ -85,9 +88,9 @@ void brix_clear_line_cache();
 // The line of the command being run; stores its file in *file_out, which the caller must
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
-// The text of the hash line of the command being run, without its newline. With `where`,
-// also hands back the place it names.
-std::string brix_hashline_text(lineno_cache_entry* where = nullptr);
+// Sets `text` to the hash line of the command being run, without its newline. With
+// `where`, also hands back the place it names.
+void brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,

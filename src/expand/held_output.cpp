@@ -196,3 +196,32 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
     return std::all_of(text.begin(), text.end(),
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
+
+// Tcl_Write of unconverted text on the holding channel, when its buffers are empty and it
+// is line buffered, ends by handing all of a text with a newline in it down to
+// held_output; so does an unbuffered channel with any text. Then the text goes to the held
+// bytes here, without the channel's buffers and flush in between.
+bool brix_hold_directly(Tcl_Channel out, std::string_view text) {
+    if (below == nullptr || write_through) {
+        return false;
+    }
+    // Tcl names a channel by the bottom of its stack and writes at the top.
+    const ChannelState* state = reinterpret_cast<const Channel*>(out)->state;
+    const Channel* chan = state->topChanPtr;
+    constexpr int unusual = CHANNEL_NONBLOCKING | CHANNEL_CLOSED | CHANNEL_DEAD | CHANNEL_BLOCKED |
+                            CHANNEL_INCLOSE | CHANNEL_CLOSEDWRITE | BG_FLUSH_SCHEDULED;
+    const bool handed_down =
+        (state->flags & CHANNEL_UNBUFFERED) != 0 ||
+        ((state->flags & CHANNEL_LINEBUFFERED) != 0 && text.find('\n') != std::string_view::npos);
+    const ChannelBuffer* current = state->curOutPtr;
+    if (chan->typePtr != &held_channel_type || state->topChanPtr != chan || !handed_down ||
+        (state->flags & TCL_WRITABLE) == 0 || (state->flags & unusual) != 0 ||
+        state->unreportedError != 0 || state->unreportedMsg != nullptr ||
+        state->csPtrW != nullptr || state->outQueueHead != nullptr ||
+        (current != nullptr && current->nextAdded != current->nextRemoved)) {
+        return false;
+    }
+    int error = 0;
+    held_output(nullptr, text.data(), static_cast<int>(text.size()), &error);
+    return true;
+}

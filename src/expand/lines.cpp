@@ -15,6 +15,7 @@
 
 #include "driver/diag.hpp"
 
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <deque>
@@ -265,7 +266,7 @@ int get_current_brix_file_line_num(const char** file_out) {
     return line + anchor.file_line - anchor.frame_line;
 }
 
-std::string brix_hashline_text(lineno_cache_entry* where) {
+void brix_hashline_text(std::string& text, lineno_cache_entry* where) {
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
@@ -274,7 +275,12 @@ std::string brix_hashline_text(lineno_cache_entry* where) {
     if (where != nullptr) {
         *where = {1, line, file};
     }
-    return "BRIX_HASHLINE " + std::to_string(line) + " " + file;
+    char number[16];
+    char* end = std::to_chars(number, number + sizeof number, line).ptr;
+    text.assign("BRIX_HASHLINE ");
+    text.append(number, end);
+    text += ' ';
+    text += file;
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
