@@ -179,6 +179,21 @@ TEST(ExpandRun, OtherWritersFollowWhatTclHasWritten) {
               hash(1) + "bytes 1 \n" + hash(3) + "bytes 34 \n");
 }
 
+// The script may leave part of a line in Tcl's buffer or change how the channel buffers
+// and translates; the declarations' text still lands behind it, as `puts` would put it.
+TEST(ExpandRun, DeclarationsFollowTheChannelsOwnState) {
+    EXPECT_EQ(expand_test::expand_script("puts -nonewline x\nbytes 1\nputs -nonewline y\n"),
+              "x" + hash(2) + "bytes 1 \ny");
+    EXPECT_EQ(expand_test::expand_script("fconfigure stdout -buffering full\nbytes 1\n"
+                                         "exec echo hi >@stdout\nbytes 2\n"),
+              hash(2) + "bytes 1 \nhi\n" + hash(4) + "bytes 2 \n");
+    EXPECT_EQ(expand_test::expand_script("fconfigure stdout -buffering none\n"
+                                         "puts -nonewline a\nbytes 1\n"),
+              "a" + hash(3) + "bytes 1 \n");
+    EXPECT_EQ(expand_test::expand_script("fconfigure stdout -translation crlf\nbytes 1\n"),
+              "BRIX_HASHLINE 2 top.brix\r\nbytes 1 \r\n");
+}
+
 TEST(ExpandRun, FailuresEndTheRunAndRemoveThePureFile) {
     struct failure {
         const char* script;
