@@ -111,8 +111,9 @@ class pure_writer {
     }
     void indent() {
         if (brix_level > 0) {
-            const std::string tabs(static_cast<std::size_t>(brix_level), '\t');
-            put(tabs, [&tabs] { return "puts -nonewline \"" + tabs + "\""; });
+            static std::string tabs; // kept for its storage
+            tabs.assign(static_cast<std::size_t>(brix_level), '\t');
+            put(tabs, [] { return "puts -nonewline \"" + tabs + "\""; });
         }
     }
     void newline() { put("\n", "puts \"\""); }
