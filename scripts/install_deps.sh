@@ -2,9 +2,9 @@
 # Installs what the build and the tests need from Debian's packages, if missing.
 set -euo pipefail
 # groff-base and man-db check the manual page; dpkg-dev and file let cpack make the Debian
-# package with its dependencies; afl++ fuzzes.
+# package with its dependencies, and lintian checks it; afl++ fuzzes.
 pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev verilator groff-base man-db
-      dpkg-dev file afl++)
+      dpkg-dev file lintian afl++)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -36,9 +36,20 @@ grep -Eq '(^|, )libtcl8\.6( |,|$)' <<<"$depends" ||
 
 dpkg-deb -c "$deb" | awk '{ print $6 }' >"$work/contents"
 for f in ./usr/bin/brixgen ./usr/share/man/man1/brixgen.1.gz ./usr/share/doc/brixgen/guide.md \
+    ./usr/share/doc/brixgen/copyright \
     ./usr/share/doc/brixgen/examples/uart/uart.brix; do
     grep -qx "$f" "$work/contents" || { echo "--- not in the package: $f"; fail=1; }
 done
+
+# Debian's own checks of a package: every error and warning counts.
+if command -v lintian >/dev/null; then
+    lintian --tag-display-limit 0 "$deb" 2>&1 | grep -v 'root privileges' >"$work/lintian"
+    if grep -q '^[EW]:' "$work/lintian"; then
+        echo "--- lintian:"
+        cat "$work/lintian"
+        fail=1
+    fi
+fi
 
 # A package database with only the dependencies, copied from this machine's.
 root="$work/root"
