@@ -10,17 +10,8 @@
 # two in the system, whose index is settled by a `case` in every backdoor class. Each run
 # is repeated BRIX_BENCH_REPEAT times (default 3) and the fastest counts.
 set -eu
-cd "$(dirname "$0")/.."
-bin=${1:-}
-if [ -z "$bin" ]; then
-    cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DBRIX_TESTS=OFF >/dev/null
-    cmake --build build/bench -j2 --target brixgen >/dev/null
-    bin=build/bench/brixgen
-fi
-bin=$(readlink -f "$bin")
+. "$(dirname "$0")/setup.sh" "${1:-}"
 repeat=${BRIX_BENCH_REPEAT:-3}
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 
 # A description of $1 registers: block types of 25 register arrays of 4.
 generate() {

@@ -8,16 +8,7 @@
 # of literal registers with fields and constraints, registers made in `foreach` loops, and
 # registers made by a procedure called from inside the block.
 set -eu
-cd "$(dirname "$0")/.."
-bin=${1:-}
-if [ -z "$bin" ]; then
-    cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DBRIX_TESTS=OFF >/dev/null
-    cmake --build build/bench -j2 --target brixgen >/dev/null
-    bin=build/bench/brixgen
-fi
-bin=$(readlink -f "$bin")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/setup.sh" "${1:-}"
 
 # Writes a description of at least $1 description commands; prints the exact count on fd 3.
 generate() {

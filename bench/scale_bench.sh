@@ -16,16 +16,7 @@
 # with every description command a procedure that appends its words to a list and
 # evaluates its body. Not a test: the figures depend on the machine.
 set -eu
-cd "$(dirname "$0")/.."
-bin=${1:-}
-if [ -z "$bin" ]; then
-    cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DBRIX_TESTS=OFF >/dev/null
-    cmake --build build/bench -j2 --target brixgen >/dev/null
-    bin=build/bench/brixgen
-fi
-bin=$(readlink -f "$bin")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/setup.sh" "${1:-}"
 
 write_flat() { # registers
     cat <<EOF
