@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "driver/driver.hpp"
-#include "gen_sv/gen_model.hpp"
-#include "gen_sv/gen_support.hpp"
+#include "gen_model/gen_model.hpp"
+#include "gen_model/gen_support.hpp"
 #include "gen_backdoor/vhdl.hpp"
 
 using namespace brix_gen;

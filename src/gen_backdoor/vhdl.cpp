@@ -8,7 +8,7 @@
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
 #include "gen_backdoor/backdoor.hpp"
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_model.hpp"
 
 std::string brix_hdlxmr_reg_defns;
 std::string brix_hdlxmr_initial_block;

@@ -1,7 +1,7 @@
 #include "gen_c/gen_c.hpp"
 
 #include "driver/diag.hpp"
-#include "gen_sv/gen_support.hpp"
+#include "gen_model/gen_support.hpp"
 #include "semantic/model_copy.hpp"
 
 #include <algorithm>

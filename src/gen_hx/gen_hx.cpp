@@ -1,8 +1,8 @@
 #include "gen_hx/gen_hx.hpp"
 
 #include "gen_hx/hx_backdoor.hpp"
-#include "gen_sv/gen_coverage.hpp"
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_coverage.hpp"
+#include "gen_model/gen_model.hpp"
 
 // The HX model is the same walk as the SystemVerilog one with these texts. Where HX
 // decides differently (no attributes, coverage of every field's bits, bins that count

@@ -5,7 +5,7 @@
 
 #include "driver/diag.hpp"
 #include "gen_backdoor/backdoor.hpp"
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_model.hpp"
 
 FILE* brx_bkdrs_hxh_fp = nullptr;
 FILE* brx_bkdrs_v_fp = nullptr;

@@ -1,8 +1,8 @@
 #include "gen_sv/gen_sv.hpp"
 
 #include "gen_backdoor/backdoor.hpp"
-#include "gen_sv/gen_coverage.hpp"
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_coverage.hpp"
+#include "gen_model/gen_model.hpp"
 
 namespace {
 

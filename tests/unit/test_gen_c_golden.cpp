@@ -5,7 +5,7 @@
 // headers. The model file written beside a header is the model generators' business.
 #include "golden_child.hpp"
 
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_model.hpp"
 
 #include <cstring>
 #include <set>

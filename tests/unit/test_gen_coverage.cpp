@@ -3,7 +3,7 @@
 #include "gen_sv_builder.hpp"
 
 #include "gen_plan/gen_plan.hpp"
-#include "gen_sv/gen_coverage.hpp"
+#include "gen_model/gen_coverage.hpp"
 
 using namespace brix_build;
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <strings.h>
 
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_model.hpp"
 #include "parser/model.hpp"
 
 namespace brix_gen {

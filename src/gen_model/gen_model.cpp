@@ -1,4 +1,4 @@
-#include "gen_sv/gen_model.hpp"
+#include "gen_model/gen_model.hpp"
 
 #include <algorithm>
 #include <cctype>
@@ -6,9 +6,9 @@
 #include <strings.h>
 
 #include "driver/driver.hpp"
-#include "gen_sv/gen_coverage.hpp"
+#include "gen_model/gen_coverage.hpp"
 #include "gen_backdoor/backdoor.hpp"
-#include "gen_sv/gen_support.hpp"
+#include "gen_model/gen_support.hpp"
 #include "semantic/model_copy.hpp"
 #include "semantic/semantic.hpp"
 

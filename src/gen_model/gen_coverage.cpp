@@ -1,4 +1,4 @@
-#include "gen_sv/gen_coverage.hpp"
+#include "gen_model/gen_coverage.hpp"
 
 #include <algorithm>
 #include <cstdlib>
@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "driver/driver.hpp"
-#include "gen_sv/gen_model.hpp"
-#include "gen_sv/gen_support.hpp"
+#include "gen_model/gen_model.hpp"
+#include "gen_model/gen_support.hpp"
 #include "semantic/semantic.hpp"
 
 using namespace brix_gen;
