@@ -12,9 +12,11 @@
 #         and registers made by a procedure, all with hdl paths.
 # Each runs without and with `-c baf`; the coverage models add about 8 KB of output per
 # register, so the runs with them stop at BRIX_BENCH_COVER_MAX registers (default 100000).
-# The floor is plain tclsh evaluating the same script
-# with every description command a procedure that appends its words to a list and
-# evaluates its body. Not a test: the figures depend on the machine.
+# Two floors evaluate the same script: plain tclsh with every description command a
+# procedure that appends its words to a list and evaluates its body ("proc"), and
+# bench/tcl_floor.c, built here, where they are C object commands that evaluate their
+# bodies as objects ("obj"), so bodies run as compiled bytecode. Not a test: the figures
+# depend on the machine.
 set -eu
 . "$(dirname "$0")/setup.sh" "${1:-}"
 
@@ -113,13 +115,16 @@ measure() {
 }
 
 write_floor >"$work/floor.tcl"
-printf "%-5s %9s %-6s %9s %9s %9s %7s %9s\n" shape registers cover "wall s" "peak MB" \
-    "floor s" ratio "output MB"
+tcl_inc=$(. /usr/lib/tclConfig.sh 2>/dev/null && echo "$TCL_INCLUDE_SPEC")
+gcc -O2 -o "$work/tcl_floor" bench/tcl_floor.c ${tcl_inc:--I/usr/include/tcl8.6} -ltcl8.6
+printf "%-5s %9s %-6s %9s %9s %9s %7s %9s %7s %9s\n" shape registers cover "wall s" \
+    "peak MB" "proc s" ratio "obj s" ratio "output MB"
 for shape in ${BRIX_BENCH_SHAPES:-flat chip}; do
     for n in ${BRIX_BENCH_SIZES:-25000 100000 400000 1000000}; do
         file="$work/${shape}_$n.brix"
         "write_$shape" "$n" >"$file"
         read -r floor _ < <(measure tclsh "$work/floor.tcl" "$file")
+        read -r ofloor _ < <(measure "$work/tcl_floor" "$file")
         for cover in "" baf; do
             [ -n "$cover" ] && [ "$n" -gt "${BRIX_BENCH_COVER_MAX:-100000}" ] && continue
             rm -rf "$work/out" && mkdir "$work/out"
@@ -128,9 +133,9 @@ for shape in ${BRIX_BENCH_SHAPES:-flat chip}; do
             read -r wall peak < <(cd "$work/out" && measure "$bin" "${args[@]}" "$file")
             size=$(du -cb "$work/out"/* | awk 'END { printf "%.0f", $1 / 1e6 }')
             awk -v s="$shape" -v n="$n" -v c="${cover:--}" -v w="$wall" -v p="$peak" \
-                -v f="$floor" -v o="$size" 'BEGIN {
-                    printf "%-5s %9d %-6s %9.2f %9d %9.2f %7.1f %9d\n",
-                        s, n, c, w, p, f, (f > 0 ? w / f : 0), o }'
+                -v f="$floor" -v g="$ofloor" -v o="$size" 'BEGIN {
+                    printf "%-5s %9d %-6s %9.2f %9d %9.2f %7.1f %9.2f %7.1f %9d\n",
+                        s, n, c, w, p, f, (f > 0 ? w / f : 0), g, (g > 0 ? w / g : 0), o }'
         done
     done
 done
