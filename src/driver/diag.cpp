@@ -1,7 +1,6 @@
 #include "driver/diag.hpp"
 
-#include "expand/expand.hpp"
-
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cstdint>
@@ -10,6 +9,7 @@
 #include <map>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 char pure_brix_file[100] = "";
 char brix_src_file_name[1000] = "";
@@ -17,9 +17,24 @@ unsigned long long brix_src_file_linenum = 0;
 FILE* brx_model_fp = nullptr;
 int brix_quiet_mode = 0;
 
+namespace {
+std::vector<void (*)()>& exit_hooks() {
+    static std::vector<void (*)()> hooks;
+    return hooks;
+}
+} // namespace
+
+void brix_add_exit_hook(void (*hook)()) {
+    if (std::find(exit_hooks().begin(), exit_hooks().end(), hook) == exit_hooks().end()) {
+        exit_hooks().push_back(hook);
+    }
+}
+
 void brix_exit(int status) {
     // The writers buffer: what they were given reaches its file on every way out.
-    brix_release_tcl_stdout();
+    for (auto hook = exit_hooks().rbegin(); hook != exit_hooks().rend(); ++hook) {
+        (*hook)();
+    }
     if (brx_model_fp != nullptr) {
         fflush(brx_model_fp);
     }

@@ -52,7 +52,11 @@ struct brix_args {
     const brix_arg* take() { return next < count ? &args[next++] : nullptr; }
 };
 
+// Ends the run: calls the exit hooks, newest first, flushes the model's stream and removes
+// the temporary pure description.
 [[noreturn]] void brix_exit(int status);
+// A stage that holds output of its own registers here how to release it on every way out.
+void brix_add_exit_hook(void (*hook)());
 [[noreturn]] void brix_verror(const char* fmt, brix_args args);
 void brix_vwarn(const char* fmt, brix_args args);
 [[noreturn]] void brix_vyyerror(const char* fmt, brix_args args);

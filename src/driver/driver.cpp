@@ -1,6 +1,7 @@
 #include "driver/driver.hpp"
 
 #include "driver/diag.hpp"
+#include "driver/options.hpp"
 #include "expand/expand.hpp"
 #include "gen_c/gen_c.hpp"
 #include "gen_hx/gen_hx.hpp"
@@ -15,18 +16,6 @@
 #include <ctime>
 #include <tcl.h>
 #include <unistd.h>
-
-char* target_language = nullptr;
-const char* ofile = nullptr;
-char* brix_inc_dirs = nullptr;
-int brix_gen_backdoor = 0;
-int brix_ext_ud = 0;
-int brix_cvr_reg_bits = 0;
-int brix_cvr_addr_map = 0;
-int brix_cvr_field_vals = 0;
-int brix_gen_c_interface = 0;
-char* brix_backdoor_top_path = nullptr;
-char* brix_vhdl_backdoor_top_path = nullptr;
 
 namespace {
 constexpr int version_major = 1;
@@ -119,17 +108,6 @@ char* get_absolute_path(const char* path) {
     char* result = static_cast<char*>(malloc(size));
     snprintf(result, size, "%s/%s", cwd, path);
     return result;
-}
-
-char* dirname(const char* path) {
-    const char* slash = strrchr(path, '/');
-    if (slash == nullptr) {
-        return strdup(".");
-    }
-    if (slash == path) {
-        return strdup("/");
-    }
-    return strndup(path, static_cast<std::size_t>(slash - path));
 }
 
 void brix_name_pure_file() {

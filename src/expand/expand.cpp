@@ -3,7 +3,6 @@
 #include "expand/expand.hpp"
 
 #include "driver/diag.hpp"
-#include "driver/driver.hpp"
 
 #include <algorithm>
 #include <array>
@@ -25,6 +24,7 @@ char* user_pwd = nullptr;
 char* user_ppwd = nullptr;
 brix_str2str_map all_procs_location_info;
 brix_str2int_map all_purebrix_cmds;
+char* brix_inc_dirs = nullptr;
 
 namespace {
 
@@ -127,6 +127,7 @@ void setup_interpreter() {
     Tcl_Init(brixgen_interp);
     tcl_puts = Tcl_FindCommand(brixgen_interp, "::puts", nullptr, TCL_GLOBAL_ONLY);
     brix_hold_tcl_stdout();
+    brix_add_exit_hook(brix_release_tcl_stdout);
     for (const char* rename :
          {"rename source __brix_source_original__", "rename proc __brix_proc_original__"}) {
         if (brix_check_result(Tcl_Eval(brixgen_interp, rename)) != TCL_OK) {
@@ -310,6 +311,17 @@ int BRIX_source(ClientData, Tcl_Interp*, int argc, const char** argv) {
     return execute_brix_file(name);
 }
 
+char* brix_dirname(const char* path) {
+    const char* slash = strrchr(path, '/');
+    if (slash == nullptr) {
+        return strdup(".");
+    }
+    if (slash == path) {
+        return strdup("/");
+    }
+    return strndup(path, static_cast<std::size_t>(slash - path));
+}
+
 void expand_tcl_constructs(const char* description_file, const char* pure_file) {
     const int fd = create_pure_file(pure_file);
 
@@ -321,13 +333,13 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     setup_interpreter();
 
-    char* dir = dirname(description_file);
+    char* dir = brix_dirname(description_file);
     if (getcwd(brixgen_cmdbuf, 1000) == nullptr) {
         fputs("Error: 'getcwd' failed...\n", stderr);
         brix_exit(1);
     }
     user_pwd = brix_strdup(brixgen_cmdbuf);
-    user_ppwd = dirname(user_pwd);
+    user_ppwd = brix_dirname(user_pwd);
     // A directory that cannot be entered shows up as a failure to open the file.
     (void)!chdir(dir);
     free(dir);

@@ -10,6 +10,10 @@
 // Evaluates the description file and writes the pure description into pure_file.
 // Returns only on success.
 void expand_tcl_constructs(const char* description_file, const char* pure_file);
+// The -I folders, joined by ':', where `source` looks first; null: none. Owned by the caller.
+extern char* brix_inc_dirs;
+// The folder part of a path, as a new heap string: "." without a slash.
+char* brix_dirname(const char* path);
 
 // --- Shared by the expansion stage -------------------------------------------------------
 

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/driver.hpp"
-#include "gen_model/gen_model.hpp"
+#include "driver/options.hpp"
 #include "gen_model/gen_support.hpp"
 #include "gen_backdoor/vhdl.hpp"
 
@@ -15,7 +14,7 @@ using namespace brix_gen;
 namespace {
 
 const brix_bkdr_templates& T() {
-    return *brix_lang->bkdr;
+    return *brix_bkdr_lang;
 }
 
 bool is_read(brix_bkdr_dir dir) {
@@ -242,10 +241,11 @@ void emit_vhdl_backdoor_access(brix_bkdr_dir dir, const std::string& data,
                                long long index, uint64_t memory_size, bool is_memory) {
     const bool write = !is_read(dir);
     const char* at = prefix.empty() ? nullptr : prefix.c_str();
+    const std::vector<brix_bkdr_dimension> dims = backdoor_variable_dimensions(brix_hierarchy);
     emit_hdl_xmr_connection_code(at, path, width, index, static_cast<uint32_t>(memory_size), write,
-                                 is_memory);
+                                 is_memory, dims);
     std::string name;
-    create_tmpregname(name, at, path, index, write, true, is_memory);
+    create_tmpregname(name, at, path, index, write, dims, is_memory);
     open_assignment(dir, data);
     out("`%s_VHDL_BKDR_CONNECTOR.%s%s", uc_top, name, is_memory ? "[offset]" : "");
     close_assignment(dir, data);

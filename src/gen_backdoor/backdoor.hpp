@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "gen_backdoor/vhdl.hpp"
 #include "parser/model.hpp"
 
 // An access is a read or a write; the two differ in a few texts only.
@@ -106,15 +107,8 @@ void process_backdoor_hdl_path(brix_hdl_path_tag* list, const char* name);
 bool has_bkdr_array_ancestor(const brix_list_tag* hierarchy);
 // The array levels of a hierarchy indexed at run time, as process_backdoor_hdl_path leaves
 // them ("[<name>]" in their path), outermost first.
-struct brix_bkdr_dimension {
-    const char* name;
-    int32_t array_size;
-};
 std::vector<brix_bkdr_dimension> backdoor_variable_dimensions(const brix_list_tag* hierarchy);
 bool fields_implemented_in_vhdl(const brix_register_tag* reg);
 // The path of an array level with the index of an expanded element back in brackets.
 std::string get_hdl_path_with_mem_bkdr_wrkaround(const char* name, const brix_hdl_path_tag* path,
                                                  const brix_tmp_info_for_mem_vhdl_bkdr* info);
-
-// Writes the connector module of the objects reached in VHDL, if there are any.
-void emit_vhdl_bkdr_connection_module();

@@ -6,9 +6,7 @@
 #include <vector>
 
 #include "driver/diag.hpp"
-#include "driver/driver.hpp"
-#include "gen_backdoor/backdoor.hpp"
-#include "gen_model/gen_model.hpp"
+#include "driver/options.hpp"
 
 std::string brix_hdlxmr_reg_defns;
 std::string brix_hdlxmr_initial_block;
@@ -98,7 +96,8 @@ bool emit_vhdl_path(const char* path, std::string& out, bool keep_index) {
 }
 
 bool create_tmpregname(std::string& out, const char* prefix, const char* path, long long index,
-                       bool is_write, bool with_dimensions, bool keep_index) {
+                       bool is_write, const std::vector<brix_bkdr_dimension>& dims,
+                       bool keep_index) {
     bool bracket = false;
     if (prefix != nullptr) {
         out += "__";
@@ -114,8 +113,8 @@ bool create_tmpregname(std::string& out, const char* prefix, const char* path, l
         bracket = emit_vhdl_path(p.c_str(), out, keep_index) || bracket;
     }
     out += is_write ? "__op" : "__ip";
-    if (bracket && with_dimensions) {
-        for (const brix_bkdr_dimension& d : backdoor_variable_dimensions(brix_hierarchy)) {
+    if (bracket) {
+        for (const brix_bkdr_dimension& d : dims) {
             out += "[";
             out += d.name;
             out += "]";
@@ -126,16 +125,14 @@ bool create_tmpregname(std::string& out, const char* prefix, const char* path, l
 
 void emit_hdl_xmr_connection_code(const char* prefix, const char* path, uint32_t width,
                                   long long index, uint32_t memory_size, bool is_write,
-                                  bool keep_index) {
+                                  bool keep_index, const std::vector<brix_bkdr_dimension>& dims) {
     prefix = null_if_empty(prefix);
     path = null_if_empty(path);
     std::string tmp;
-    const bool bracket = create_tmpregname(tmp, prefix, path, index, is_write, false, keep_index);
+    const bool bracket = create_tmpregname(tmp, prefix, path, index, is_write, {}, keep_index);
     brix_hdlxmr_reg_defns += "\treg[" + std::to_string(static_cast<int64_t>(width) - 1) + ":0] ";
     brix_hdlxmr_reg_defns += tmp;
-    std::vector<brix_bkdr_dimension> dims;
     if (bracket) {
-        dims = backdoor_variable_dimensions(brix_hierarchy);
         for (const brix_bkdr_dimension& d : dims) {
             brix_hdlxmr_reg_defns += "[0:" + std::to_string(d.array_size - 1) + "]";
         }
@@ -155,20 +152,21 @@ void emit_hdl_xmr_connection_code(const char* prefix, const char* path, uint32_t
     } else {
         xmr_path = prefix != nullptr ? std::string(prefix) : p;
     }
-    emit_brix_hdlxmr_initial_block(dims, 0, xmr_path, tmp, is_write);
+    emit_brix_hdlxmr_initial_block(bracket ? dims : std::vector<brix_bkdr_dimension>{}, 0, xmr_path,
+                                   tmp, is_write);
 }
 
-void emit_vhdl_bkdr_connection_module() {
+void emit_vhdl_bkdr_connection_module(const char* top) {
     if (brix_hdlxmr_reg_defns.empty() || brix_hdlxmr_initial_block.empty()) {
         return;
     }
     // The connector goes beside the model whatever name the model was given.
-    const std::string name = std::string("brx_vhdl_bkdrs_") + brix_top + ".v";
+    const std::string name = std::string("brx_vhdl_bkdrs_") + top + ".v";
     FILE* fp = fopen(name.c_str(), "w");
     if (fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", name);
     }
-    fprintf(fp, "module brx_%s_vhdl_bkdr_connector;\n", brix_top);
+    fprintf(fp, "module brx_%s_vhdl_bkdr_connector;\n", top);
     fputs(brix_hdlxmr_reg_defns.c_str(), fp);
     fputs("\n\tinitial begin\n", fp);
     fputs(brix_hdlxmr_initial_block.c_str(), fp);

@@ -6,6 +6,13 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+// An array level above the object indexed at run time: a class keeps a member of this name.
+struct brix_bkdr_dimension {
+    const char* name;
+    int32_t array_size;
+};
 
 // The connector's register declarations, one a line, and its `$hdl_xmr` lines. They are
 // filled while the backdoor classes are written and end up in the connector module.
@@ -20,13 +27,18 @@ std::string brix_path_with_index(const char* path, long long index);
 bool emit_vhdl_path(const char* path, std::string& out, bool keep_index);
 
 // Appends the name of a connector register to `out`: "__" + prefix, "__" + path, then "__op"
-// for a write or "__ip" for a read. With `with_dimensions` the run-time indices of the
-// levels above follow, as a class addresses the register. True when a "[" was seen.
+// for a write or "__ip" for a read. When a "[" was seen, which it returns, the run-time
+// indices `dims` follow, as a class addresses the register; the declaration passes none.
 bool create_tmpregname(std::string& out, const char* prefix, const char* path, long long index,
-                       bool is_write, bool with_dimensions, bool keep_index);
+                       bool is_write, const std::vector<brix_bkdr_dimension>& dims,
+                       bool keep_index);
 
 // Declares the connector register for prefix.path, `width` bits wide, over `memory_size`
-// words when that is not 0, and adds its `$hdl_xmr` lines.
+// words when that is not 0, and adds its `$hdl_xmr` lines, one for each element of the
+// arrays `dims` that a bracketed path spans.
 void emit_hdl_xmr_connection_code(const char* prefix, const char* path, uint32_t width,
                                   long long index, uint32_t memory_size, bool is_write,
-                                  bool keep_index);
+                                  bool keep_index, const std::vector<brix_bkdr_dimension>& dims);
+
+// Writes the connector module of the objects of `top` reached in VHDL, if there are any.
+void emit_vhdl_bkdr_connection_module(const char* top);

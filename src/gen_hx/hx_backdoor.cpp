@@ -103,49 +103,49 @@ void emit_hx_backdoor_task(const brix_bkdr_object& o, brix_bkdr_dir dir) {
 } // namespace
 
 const brix_bkdr_templates hx_bkdr_templates = {
-    /*statements_fp*/ &brx_bkdrs_v_fp,
-    /*reg_class_head*/ "class brx_reg_%s",
-    /*mem_class_head*/ "class brx_mem_%s",
-    /*level_suffix*/ "_%s",
-    /*reg_class_head_tail*/ "_bkdr extends qvt_brx_reg_backdoor {\n",
-    /*mem_class_head_tail*/ "_%s_bkdr extends qvt_brx_mem_backdoor {\n",
-    /*shared_reg_class_head*/ "class %s extends qvt_brx_reg_backdoor {\n",
-    /*shared_mem_class_head*/ "class %s extends qvt_brx_mem_backdoor {\n",
-    /*member_decl*/ "\tinteger %s;\n",
-    /*ctor_head*/ "\n\ttask new(",
-    /*ctor_arg*/ "integer %s",
-    /*ctor_arg_sep*/ ", ",
-    /*ctor_args_end*/ ") {\n",
-    /*ctor_assign*/ "\t\tthis.%s = %s;\n",
-    /*ctor_tail*/ "\t}\n\n",
-    /*class_tail*/ "}\n\n\n",
+    .statements_fp = &brx_bkdrs_v_fp,
+    .reg_class_head = "class brx_reg_%s",
+    .mem_class_head = "class brx_mem_%s",
+    .level_suffix = "_%s",
+    .reg_class_head_tail = "_bkdr extends qvt_brx_reg_backdoor {\n",
+    .mem_class_head_tail = "_%s_bkdr extends qvt_brx_mem_backdoor {\n",
+    .shared_reg_class_head = "class %s extends qvt_brx_reg_backdoor {\n",
+    .shared_mem_class_head = "class %s extends qvt_brx_mem_backdoor {\n",
+    .member_decl = "\tinteger %s;\n",
+    .ctor_head = "\n\ttask new(",
+    .ctor_arg = "integer %s",
+    .ctor_arg_sep = ", ",
+    .ctor_args_end = ") {\n",
+    .ctor_assign = "\t\tthis.%s = %s;\n",
+    .ctor_tail = "\t}\n\n",
+    .class_tail = "}\n\n\n",
 
-    /*reg_task_head*/
-    {"\tvirtual function qvt_rw::status_e read_t(var bit [QVT_BRX_DATA_WIDTH-1:0] data, \n"
-     "                    integer data_id, integer scenario_id, integer stream_id) {\n",
-     "\tvirtual function qvt_rw::status_e write_t(bit [QVT_BRX_DATA_WIDTH-1:0] data,\n"
-     "\t\t\t\t\tinteger data_id, integer scenario_id, integer stream_id) {\n"},
-    /*mem_task_head*/
-    {"\tvirtual function qvt_rw::status_e read_t(bit [QVT_BRX_ADDR_WIDTH-1:0] offset, \n"
-     "\t\t\t\t\tvar bit [QVT_BRX_DATA_WIDTH-1:0] data, integer data_id,\n"
-     "\t\t\t\t\tinteger scenario_id, integer stream_id) {\n",
-     "\tvirtual function qvt_rw::status_e write_t(bit [QVT_BRX_ADDR_WIDTH-1:0] offset,\n"
-     "\t\t\t\t\tbit [QVT_BRX_DATA_WIDTH-1:0] data, integer data_id, \n"
-     "\t\t\t\t\tinteger scenario_id, integer stream_id) {\n"},
-    /*task_body_open*/ "\t\tbit status = 0;\n\t\t",
-    /*task_ok_tail*/
-    {"\t\tif (status == 0)\n\t\t\tread_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\tread_t = "
-     "qvt_rw::ERROR;\n\t}\n",
-     "\t\tif (status == 0)\n\t\t\twrite_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\twrite_t = "
-     "qvt_rw::ERROR;\n\t}\n"},
-    /*task_error*/ "\t\twrite_t = qvt_rw::ERROR;\n\t}\n",
-    /*emit_tasks_head*/ emit_hx_backdoor_tasks_head,
-    /*emit_task_body*/ emit_hx_backdoor_task,
+    .reg_task_head =
+        {"\tvirtual function qvt_rw::status_e read_t(var bit [QVT_BRX_DATA_WIDTH-1:0] data, \n"
+         "                    integer data_id, integer scenario_id, integer stream_id) {\n",
+         "\tvirtual function qvt_rw::status_e write_t(bit [QVT_BRX_DATA_WIDTH-1:0] data,\n"
+         "\t\t\t\t\tinteger data_id, integer scenario_id, integer stream_id) {\n"},
+    .mem_task_head =
+        {"\tvirtual function qvt_rw::status_e read_t(bit [QVT_BRX_ADDR_WIDTH-1:0] offset, \n"
+         "\t\t\t\t\tvar bit [QVT_BRX_DATA_WIDTH-1:0] data, integer data_id,\n"
+         "\t\t\t\t\tinteger scenario_id, integer stream_id) {\n",
+         "\tvirtual function qvt_rw::status_e write_t(bit [QVT_BRX_ADDR_WIDTH-1:0] offset,\n"
+         "\t\t\t\t\tbit [QVT_BRX_DATA_WIDTH-1:0] data, integer data_id, \n"
+         "\t\t\t\t\tinteger scenario_id, integer stream_id) {\n"},
+    .task_body_open = "\t\tbit status = 0;\n\t\t",
+    .task_ok_tail =
+        {"\t\tif (status == 0)\n\t\t\tread_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\tread_t = "
+         "qvt_rw::ERROR;\n\t}\n",
+         "\t\tif (status == 0)\n\t\t\twrite_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\twrite_t = "
+         "qvt_rw::ERROR;\n\t}\n"},
+    .task_error = "\t\twrite_t = qvt_rw::ERROR;\n\t}\n",
+    .emit_tasks_head = emit_hx_backdoor_tasks_head,
+    .emit_task_body = emit_hx_backdoor_task,
 
-    /*inst_foreach_head*/ "foreach (this",
-    /*inst_foreach_tail*/ ".%s, i%d) {\n",
-    /*inst_begin*/ "{\n",
-    /*inst_end*/ "}\n",
+    .inst_foreach_head = "foreach (this",
+    .inst_foreach_tail = ".%s, i%d) {\n",
+    .inst_begin = "{\n",
+    .inst_end = "}\n",
 };
 
 void emit_hx_backdoor_file_head() {

@@ -6,8 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "driver/driver.hpp"
-#include "gen_model/gen_model.hpp"
+#include "driver/options.hpp"
 #include "gen_model/gen_support.hpp"
 #include "semantic/semantic.hpp"
 
@@ -16,7 +15,7 @@ using namespace brix_gen;
 namespace {
 
 const brix_cvr_templates& C() {
-    return *brix_lang->cvr;
+    return *brix_cvr_lang;
 }
 
 // A model is on in a spec only when its setting is exactly 1.

@@ -5,25 +5,15 @@
 #include <cstring>
 #include <strings.h>
 
-#include "driver/driver.hpp"
+#include "driver/options.hpp"
 #include "gen_model/gen_coverage.hpp"
 #include "gen_backdoor/backdoor.hpp"
+#include "gen_backdoor/vhdl.hpp"
 #include "gen_model/gen_support.hpp"
 #include "semantic/model_copy.hpp"
 #include "semantic/semantic.hpp"
 
 const brix_gen_templates* brix_lang = nullptr;
-
-const char* brix_top = nullptr;
-uint32_t strlen_top = 0;
-char* uc_top = nullptr;
-brix_str2int_map all_registers, all_vregisters, all_memories, all_regfiles, all_blocks, all_systems,
-    all_block_sizes, all_system_sizes, all_emitted_shared_registers, all_emitted_shared_memories;
-uint32_t brix_largest_register_bytes = 0;
-uint32_t brix_largest_memory_bits = 0;
-uint32_t brix_largest_vregister_bytes = 0;
-uint32_t brix_largest_vregister_incr = 0;
-brix_list_tag* brix_hierarchy = nullptr;
 
 using namespace brix_gen;
 
@@ -298,13 +288,6 @@ uint64_t register_words(const brix_register_type_tag* t, uint64_t domain_bytes) 
                   t->name, static_cast<int>(domain_bytes));
     }
     return get_ceil(static_cast<uint64_t>(t->bytes), domain_bytes);
-}
-
-void check_no_shared_array(const brix_register_tag* r) {
-    if (is_array(r->array_size) && r->type->is_shared == 1) {
-        brix_error("Error: Register '%s' - Array of shared register is not allowed.",
-                   r->type->name);
-    }
 }
 
 // ---- Component classes --------------------------------------------------------------
@@ -915,45 +898,6 @@ bool at_top_with_backdoor() {
 
 } // namespace
 
-std::string brix_class_suffix(const char* scope_prefix, const char* name) {
-    std::string s = scope_prefix != nullptr ? std::string(scope_prefix) + "_" : std::string();
-    return s + (name != nullptr ? name : "");
-}
-
-brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right) {
-    brix_field_layout layout{0, {}};
-    for_each_field(fields, [&](const brix_field_tag* f) {
-        const uint64_t bits = f->type->bits;
-        if (f->offset != nullptr) {
-            layout.high = std::max<uint64_t>(layout.high, to_dec(f->offset) + bits);
-        } else {
-            layout.high += bits;
-        }
-    });
-    const bool ltr = left_to_right == 1;
-    long long pos = ltr ? static_cast<long long>(layout.high) : 0;
-    for_each_field(fields, [&](const brix_field_tag* f) {
-        const long long bits = f->type->bits;
-        long long guard = 0;
-        if (ltr) {
-            pos = f->offset != nullptr
-                      ? wrapping_add(static_cast<long long>(layout.high - to_dec(f->offset)), -bits)
-                      : wrapping_add(pos, -bits);
-        } else if (f->offset != nullptr) {
-            const long long v = static_cast<long long>(to_dec(f->offset));
-            if (pos > v) {
-                guard = pos;
-            }
-            pos = v;
-        }
-        layout.lsb.push_back(pos);
-        if (!ltr) {
-            pos = guard < 1 ? wrapping_add(pos, bits) : std::max(wrapping_add(pos, bits), guard);
-        }
-    });
-    return layout;
-}
-
 int already_emitted_register(const brix_register_type_tag* type) {
     return in_map(all_registers, suffix_of(type)) ? 1 : 0;
 }
@@ -1039,23 +983,6 @@ void emit_register(const brix_register_tag* reg) {
     }
     note_emitted(all_registers, suffix);
     brix_emit("\n\n");
-}
-
-uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint64_t bytes) {
-    brix_offset_walk walk;
-    for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
-        const auto* r = static_cast<const brix_register_tag*>(n->data);
-        raise(brix_largest_register_bytes, static_cast<uint32_t>(r->type->bytes));
-        const uint64_t words = get_ceil(static_cast<uint64_t>(r->type->bytes), bytes);
-        uint64_t span = words;
-        if (is_array(r->array_size)) {
-            check_no_shared_array(r);
-            span = static_cast<uint64_t>(r->array_size) * increment_or(r->increment, words);
-        }
-        walk.place(r->offset, true);
-        walk.advance(span);
-    }
-    return walk.size;
 }
 
 void emit_block_components(brix_block_type_tag* type) {
@@ -1214,6 +1141,8 @@ std::string brix_model_file_name(const char* top, const brix_gen_templates& lang
 
 void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_lang = &lang;
+    brix_cvr_lang = lang.cvr;
+    brix_bkdr_lang = lang.bkdr;
     brix_top = top;
     strlen_top = static_cast<uint32_t>(strlen(top));
     const brix_symrec* sym = lookup_design_top(top);
@@ -1249,7 +1178,7 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
         if (lang.backdoor_file_tail != nullptr) {
             lang.backdoor_file_tail();
         }
-        emit_vhdl_bkdr_connection_module();
+        emit_vhdl_bkdr_connection_module(top);
     }
     const uint64_t width = std::max<uint64_t>(
         {uint64_t{brix_largest_register_bytes} * 8, uint64_t{brix_largest_memory_bits},

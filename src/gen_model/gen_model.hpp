@@ -3,15 +3,10 @@
 // written, in which order and with which numbers, and the table how it is spelled.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <string>
-#include <unordered_map>
-#include <vector>
 
-#include "driver/diag.hpp"
-#include "driver/maps.hpp"
+#include "gen_model/gen_support.hpp"
 #include "parser/model.hpp"
 
 struct brix_cvr_templates;
@@ -158,25 +153,10 @@ struct brix_gen_templates {
 // The table of the language now being written.
 extern const brix_gen_templates* brix_lang;
 
-// State of one generation run.
-extern const char* brix_top;
-extern uint32_t strlen_top;
-extern char* uc_top;
-extern brix_str2int_map all_registers, all_vregisters, all_memories, all_regfiles, all_blocks,
-    all_systems, all_block_sizes, all_system_sizes, all_emitted_shared_registers,
-    all_emitted_shared_memories;
-extern uint32_t brix_largest_register_bytes, brix_largest_memory_bits, brix_largest_vregister_bytes,
-    brix_largest_vregister_incr;
-// The levels above the object now being emitted, read by the backdoor writers.
-extern brix_list_tag* brix_hierarchy;
-
 // Writes the whole model of `top` with the templates of `lang`.
 void emit_brx_model(const char* top, const brix_gen_templates& lang);
 // The model's file: -o's value, else "brx_<top>", with the language's suffix.
 std::string brix_model_file_name(const char* top, const brix_gen_templates& lang);
-
-// `<scope_prefix>_<name>`, or `<name>` for a global definition.
-std::string brix_class_suffix(const char* scope_prefix, const char* name);
 
 int already_emitted_register(const brix_register_type_tag* type);
 void emit_register(const brix_register_tag* reg);
@@ -185,42 +165,3 @@ void emit_block_components(brix_block_type_tag* type);
 void emit_block_itself(brix_block_type_tag* type);
 void emit_system_components(brix_system_type_tag* type);
 void emit_system_itself(brix_system_type_tag* type);
-uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint64_t bytes);
-
-// Bit positions of a register's fields in list order, by the placement rule.
-struct brix_field_layout {
-    uint64_t high;              // bits spanned by the fields
-    std::vector<long long> lsb; // one a field, real or not
-};
-brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right);
-
-// The position of the next component in a list, and the size that the list spans, counted
-// in `Pos`: the models count in 64 bits, the C interface in 32 bits that wrap.
-template <class Pos> struct brix_basic_offset_walk {
-    Pos off = 0;
-    Pos size = 0;
-    Pos saved = 0;
-    bool unmapped = false;
-    // Moves to a written offset; `none` leaves the position and takes no space when
-    // `honour_none` is set. Going backwards keeps the old position, to resume from.
-    void place(const char* offset, bool honour_none) {
-        saved = 0;
-        unmapped = honour_none && offset != nullptr && strcmp(offset, "none") == 0;
-        if (offset == nullptr || unmapped) {
-            return;
-        }
-        const Pos v = static_cast<Pos>(to_dec(offset));
-        if (v < off) {
-            saved = off;
-        }
-        off = v;
-    }
-    void advance(uint64_t span) {
-        if (!unmapped) {
-            const Pos next = static_cast<Pos>(off + span);
-            off = saved == 0 ? next : std::max(next, saved);
-        }
-        size = std::max(size, off);
-    }
-};
-using brix_offset_walk = brix_basic_offset_walk<uint64_t>;

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <string>
 
-#include "driver/driver.hpp"
+#include "driver/options.hpp"
 #include "driver/maps.hpp"
 #include "parser/model.hpp"
 #include "semantic/model_copy.hpp"

@@ -4,7 +4,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "driver/driver.hpp"
+#include "driver/options.hpp"
 #include "parser/action_support.hpp"
 #include "parser/parse_state.hpp"
 #include "parser/scope.hpp"

@@ -4,7 +4,7 @@
 #include <string>
 #include <type_traits>
 
-#include "driver/driver.hpp"
+#include "driver/options.hpp"
 #include "parser/action_support.hpp"
 #include "parser/actions.hpp"
 #include "parser/parse_state.hpp"

@@ -1,6 +1,6 @@
 #include "semantic/semantic.hpp"
 
-#include "driver/driver.hpp"
+#include "driver/options.hpp"
 #include "parser/scope.hpp"
 #include "semantic/model_copy.hpp"
 

@@ -38,13 +38,13 @@ TEST_F(backdoor, connector_register_names) {
     EXPECT_FALSE(emit_vhdl_path("u3", name, false));
     // "%d" after a letter takes the index; at the start or inside brackets it stays.
     name.clear();
-    EXPECT_FALSE(create_tmpregname(name, "x.y", "u%d", 3, true, true, false));
+    EXPECT_FALSE(create_tmpregname(name, "x.y", "u%d", 3, true, {}, false));
     EXPECT_EQ("__x__y__u3__op", name);
     name.clear();
-    EXPECT_FALSE(create_tmpregname(name, nullptr, "%d_q", 3, false, true, false));
+    EXPECT_FALSE(create_tmpregname(name, nullptr, "%d_q", 3, false, {}, false));
     EXPECT_EQ("__%d_q__ip", name);
     name.clear();
-    EXPECT_TRUE(create_tmpregname(name, nullptr, "m[%d]", 3, false, true, true));
+    EXPECT_TRUE(create_tmpregname(name, nullptr, "m[%d]", 3, false, {}, true));
     EXPECT_EQ("__mX%dX__ip", name);
 }
 

@@ -20,11 +20,11 @@ std::string take(char* heap) {
 }
 
 TEST(Driver, Dirname) {
-    EXPECT_EQ(take(dirname("a/b/c.brix")), "a/b");
-    EXPECT_EQ(take(dirname("/c.brix")), "/");
-    EXPECT_EQ(take(dirname("c.brix")), ".");
-    EXPECT_EQ(take(dirname("")), ".");
-    EXPECT_EQ(take(dirname("a/")), "a");
+    EXPECT_EQ(take(brix_dirname("a/b/c.brix")), "a/b");
+    EXPECT_EQ(take(brix_dirname("/c.brix")), "/");
+    EXPECT_EQ(take(brix_dirname("c.brix")), ".");
+    EXPECT_EQ(take(brix_dirname("")), ".");
+    EXPECT_EQ(take(brix_dirname("a/")), "a");
 }
 
 TEST(Driver, AbsolutePathPrefixesTheWorkingDirectoryOnce) {
