@@ -301,17 +301,11 @@ int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
                               brix_strdup(place.c_str()));
     }
 
-    // Handed over as words, so that a body with unbalanced braces or a trailing backslash
-    // reaches Tcl's `proc` as it was written.
-    Tcl_Obj* words[4] = {Tcl_NewStringObj("__brix_proc_original__", -1),
-                         Tcl_NewStringObj(argv[1], -1), Tcl_NewStringObj(argv[2], -1),
-                         Tcl_NewStringObj(argv[3], -1)};
-    for (Tcl_Obj* w : words) {
-        Tcl_IncrRefCount(w);
-    }
-    const int status = Tcl_EvalObjv(interp, 4, words, 0);
-    for (Tcl_Obj* w : words) {
-        Tcl_DecrRefCount(w);
-    }
+    // Tcl's `proc` is reached through the text of a command, not word by word: a name with
+    // a blank in it becomes two words there.
+    std::string command = "__brix_proc_original__ ";
+    command.append(argv[1]).append(" {").append(argv[2]).append("} {").append(argv[3]);
+    command += '}';
+    const int status = Tcl_Eval(interp, command.c_str());
     return status == TCL_ERROR ? brix_check_result(status) : TCL_OK;
 }

@@ -235,20 +235,30 @@ void out_indexed_path(const char* path, long long index) {
 // The one place where an access reaches an object of a VHDL part of the design. Such an
 // object is reached through a register of the connector module, named from `prefix` and
 // `path`, `width` bits wide, over `memory_size` words for a memory (whose name keeps a
-// fixed index).
+// fixed index). A whole register writes its statement before declaring the connector's
+// register, fields and memories after: that order shows when the declaration stops the run.
 void emit_vhdl_backdoor_access(brix_bkdr_dir dir, const std::string& data,
                                const std::string& prefix, const char* path, uint32_t width,
-                               long long index, uint64_t memory_size, bool is_memory) {
+                               long long index, uint64_t memory_size, bool is_memory,
+                               bool statement_first = false) {
     const bool write = !is_read(dir);
     const char* at = prefix.empty() ? nullptr : prefix.c_str();
     const std::vector<brix_bkdr_dimension> dims = backdoor_variable_dimensions(brix_hierarchy);
-    emit_hdl_xmr_connection_code(at, path, width, index, static_cast<uint32_t>(memory_size), write,
-                                 is_memory, dims);
+    const auto connect = [&] {
+        emit_hdl_xmr_connection_code(at, path, width, index, static_cast<uint32_t>(memory_size),
+                                     write, is_memory, dims);
+    };
+    if (!statement_first) {
+        connect();
+    }
     std::string name;
     create_tmpregname(name, at, path, index, write, dims, is_memory);
     open_assignment(dir, data);
     out("`%s_VHDL_BKDR_CONNECTOR.%s%s", uc_top, name, is_memory ? "[offset]" : "");
     close_assignment(dir, data);
+    if (statement_first) {
+        connect();
+    }
 }
 
 // The field-by-field access. Bits without a path read as zero; read-only fields are not
@@ -345,7 +355,7 @@ void emit_register_backdoor_data_stmt(brix_bkdr_dir dir, const brix_register_tag
         if (vhdl) {
             emit_vhdl_backdoor_access(dir, data, prefix != nullptr ? *prefix : std::string(),
                                       path->path, static_cast<uint32_t>(reg->type->bytes) * 8,
-                                      index, 0, false);
+                                      index, 0, false, true);
             return;
         }
         open_assignment(dir, data);

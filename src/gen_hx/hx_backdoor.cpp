@@ -51,6 +51,12 @@ const hx_task_texts task_texts[2][2] = {
 };
 
 const char* const task_suffix[2] = {"_rd", "_wr"};
+// The end of the method behind its call.
+const char* const model_call_tail[2] = {
+    ");\n\t\tif (status == 0)\n\t\t\tread_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\tread_t = "
+    "qvt_rw::ERROR;\n\t}\n",
+    ");\n\t\tif (status == 0)\n\t\t\twrite_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\twrite_t = "
+    "qvt_rw::ERROR;\n\t}\n"};
 // A write's declaration stands one line below the read's.
 const char* const hxh_task_lead[2] = {"", "\n"};
 
@@ -83,7 +89,8 @@ void emit_hx_backdoor_task(const brix_bkdr_object& o, brix_bkdr_dir dir) {
     for (const char* m : members) {
         brix_emit(", %s", m);
     }
-    brix_emit(");\n");
+    // The whole method is written before the task, which may stop the run.
+    brix_emit(model_call_tail[d]);
 
     brix_emit_to(brx_bkdrs_hxh_fp, "%shdl_task %s%s", hxh_task_lead[d], task, t.hxh_params);
     for (const char* m : members) {
@@ -133,11 +140,7 @@ const brix_bkdr_templates hx_bkdr_templates = {
          "\t\t\t\t\tbit [QVT_BRX_DATA_WIDTH-1:0] data, integer data_id, \n"
          "\t\t\t\t\tinteger scenario_id, integer stream_id) {\n"},
     .task_body_open = "\t\tbit status = 0;\n\t\t",
-    .task_ok_tail =
-        {"\t\tif (status == 0)\n\t\t\tread_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\tread_t = "
-         "qvt_rw::ERROR;\n\t}\n",
-         "\t\tif (status == 0)\n\t\t\twrite_t = qvt_rw::IS_OK;\n\t\telse\n\t\t\twrite_t = "
-         "qvt_rw::ERROR;\n\t}\n"},
+    .task_ok_tail = {"", ""}, // the method ends with its call, ahead of the task
     .task_error = "\t\twrite_t = qvt_rw::ERROR;\n\t}\n",
     .emit_tasks_head = emit_hx_backdoor_tasks_head,
     .emit_task_body = emit_hx_backdoor_task,

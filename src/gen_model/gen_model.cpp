@@ -1180,9 +1180,10 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
         }
         emit_vhdl_bkdr_connection_module(top);
     }
-    const uint64_t width = std::max<uint64_t>(
-        {uint64_t{brix_largest_register_bytes} * 8, uint64_t{brix_largest_memory_bits},
-         uint64_t{brix_largest_vregister_bytes} * 8, uint64_t{brix_largest_vregister_incr} * 8});
+    // In the trackers' own width: a product past 32 bits wraps.
+    const uint32_t width =
+        std::max({brix_largest_register_bytes * 8u, brix_largest_memory_bits,
+                  brix_largest_vregister_bytes * 8u, brix_largest_vregister_incr * 8u});
     if (width > 64) {
         brix_warn(lang.width_warning, static_cast<int>(width));
     }
