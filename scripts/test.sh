@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs the whole suite twice: a release build, and a build under
-# AddressSanitizer and UndefinedBehaviorSanitizer; then fuzzes each target for a minute.
+# AddressSanitizer and UndefinedBehaviorSanitizer; then the golden cases and unit tests of a
+# release build without Tcl's private headers; then fuzzes each target for a minute.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/install_deps.sh
@@ -16,6 +17,13 @@ for cfg in release asan; do
     ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
         ctest --test-dir "$dir" -j "$jobs" --output-on-failure || status=1
 done
+# A release build without Tcl's private headers, which takes the public paths: its golden
+# cases and unit tests.
+dir=build/test-tcl-public
+cmake -S . -B "$dir" -DCMAKE_BUILD_TYPE=Release -DBRIX_TCL_PRIVATE=OFF >/dev/null
+cmake --build "$dir" -j "$jobs"
+echo "== release tests without Tcl's private headers"
+ctest --test-dir "$dir" -j "$jobs" --output-on-failure -R '^golden\.|^[A-Z][A-Za-z]*\.' || status=1
 # A bounded fuzzing run of each target on the fixed seed corpora; any crash or hang fails.
 echo "== fuzz smoke"
 for target in whole parse gen; do

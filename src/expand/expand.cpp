@@ -102,8 +102,8 @@ int line_of_runaway_nesting(const char* text) {
 struct reading_file_scope {
     const char* saved;
     explicit reading_file_scope(const char* path) : saved(reading_brix_file) {
+        brix_push_file_anchor(path);
         reading_brix_file = path;
-        brix_push_line_anchor({1, 1, path});
     }
     ~reading_file_scope() {
         brix_pop_line_anchor();
@@ -122,7 +122,21 @@ struct reading_file_scope {
     brix_exit(1);
 }
 
+// The private structures are read only from the release they were built against.
+bool same_tcl_release() {
+    int major = 0;
+    int minor = 0;
+    int patch = 0;
+    int type = 0;
+    Tcl_GetVersion(&major, &minor, &patch, &type);
+    const char* separator = type == TCL_ALPHA_RELEASE ? "a" : type == TCL_BETA_RELEASE ? "b" : ".";
+    const std::string running =
+        std::to_string(major) + "." + std::to_string(minor) + separator + std::to_string(patch);
+    return running == TCL_PATCH_LEVEL;
+}
+
 void setup_interpreter() {
+    brix_tcl_internals = brix_tcl_internals && same_tcl_release();
     brixgen_interp = Tcl_CreateInterp();
     Tcl_Init(brixgen_interp);
     tcl_puts = Tcl_FindCommand(brixgen_interp, "::puts", nullptr, TCL_GLOBAL_ONLY);

@@ -59,6 +59,9 @@ bool brix_write_direct(Tcl_Channel out, std::string_view text);
 // True when the channel would write `text` as it stands (ASCII only, into an encoding
 // that keeps ASCII, newlines left alone), so that it may skip the conversion.
 bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
+// Whether Tcl's private structures may be read: built with them, and the library running
+// is the release they were taken from. Set at set-up; the public paths serve otherwise.
+extern bool brix_tcl_internals;
 // Tcl's own `puts`, as found once the interpreter is set up.
 extern Tcl_Command tcl_puts;
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
@@ -77,15 +80,18 @@ void brix_flush_tcl_stdout();
 
 // --- Source line tracking ----------------------------------------------------------------
 
-// Where a line of the script being evaluated lies: its line frame_line stands at
-// file_line of file_name.
+// Where the script being evaluated lies: the commands at frame levels above `level` run
+// within it, and its line 1 stands at file_line of file_name; a file_line of 0 is a file
+// of its own, whose lines are the script's.
 struct lineno_cache_entry {
-    int frame_line;
+    int level;
     int file_line;
     std::string file_name;
 };
 // Makes `entry` the anchor of the scripts evaluated until brix_pop_line_anchor.
 void brix_push_line_anchor(lineno_cache_entry entry);
+// Anchors a file about to be evaluated by the command being run (none for the top file).
+void brix_push_file_anchor(const char* path);
 void brix_pop_line_anchor();
 void brix_clear_line_cache();
 

@@ -10,8 +10,10 @@
 #include <cerrno>
 #include <iterator>
 #include <string>
+#if BRIX_TCL_PRIVATE
 #include <tclInt.h>
 #include <tclIO.h>
+#endif
 
 namespace {
 
@@ -181,9 +183,13 @@ void brix_release_tcl_stdout() {
     }
 }
 
+#if BRIX_TCL_PRIVATE
 // The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
 // fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
 bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
+    if (!brix_tcl_internals) {
+        return false;
+    }
     static const Tcl_Encoding unchanged[] = {Tcl_GetEncoding(nullptr, "utf-8"),
                                              Tcl_GetEncoding(nullptr, "iso8859-1"),
                                              Tcl_GetEncoding(nullptr, "ascii")};
@@ -225,3 +231,12 @@ bool brix_hold_directly(Tcl_Channel out, std::string_view text) {
     held_output(nullptr, text.data(), static_cast<int>(text.size()), &error);
     return true;
 }
+#else
+// Without the channel's state in view, every write converts.
+bool brix_passes_unconverted(Tcl_Channel, std::string_view) {
+    return false;
+}
+bool brix_hold_directly(Tcl_Channel, std::string_view) {
+    return false;
+}
+#endif

@@ -5,12 +5,13 @@
 // command: a body that a description command passes to Tcl_Eval is a script of its own
 // (a "type eval" frame whose line 1 is the line of the opening brace), a procedure body is
 // one too ("type proc"), while the bodies of loops, `if`, `catch` and the like, when they
-// are literal words, count within the script around them. So the innermost frame alone,
-// together with the script it belongs to, names the place. Each script this stage
+// are literal words, count within the script around them. Each script this stage
 // evaluates (a file, or a body) has its anchor on a stack, pushed and popped around its
-// evaluation; a command in a procedure body is placed from the procedure's definition.
-// This reads one small frame per command instead of walking outer frames, whose command
-// texts hold whole bodies and would make big descriptions quadratic.
+// evaluation, with the frame level of the command that evaluates it. A command standing
+// straight in the anchored script, or in a procedure body, is placed from its own frame
+// alone. Otherwise the frames between it and the anchor are walked outward, adding the
+// lines of the description commands and procedure bodies on the way; outer frames, whose
+// command texts hold whole bodies, are never read for every command.
 #include "expand/expand.hpp"
 
 #include "driver/diag.hpp"
@@ -20,8 +21,12 @@
 #include <cstring>
 #include <deque>
 #include <string_view>
-#include <tclInt.h>
 #include <vector>
+#if BRIX_TCL_PRIVATE
+#include <tclInt.h>
+#endif
+
+bool brix_tcl_internals = BRIX_TCL_PRIVATE != 0;
 
 namespace {
 
@@ -29,14 +34,23 @@ namespace {
 // in place while scripts nest deeper.
 std::deque<lineno_cache_entry> lineno_cache;
 
-// Results of the frame parser.
-int tmp_brix_cmd_frame_linenum = 0;
-char* tmp_brix_proc_filename = nullptr;
-int tmp_brix_proc_linenum = 0;
-
 [[noreturn]] void position_failed() {
     brix_error("Fatal Internal Error: get_current_brix_file_line_num() failed...\n");
 }
+
+// What one frame of `info frame` tells: whether its type is "proc", its line (0 when it
+// names none), its command text, and the procedure or lambda it runs in.
+struct frame_info {
+    bool proc_type = false;
+    bool lambda = false;
+    int line = 0;
+    std::string_view cmd;
+    std::string proc; // full name, or empty
+    std::string text; // storage of cmd when the answer was parsed
+};
+
+// The frame the frame parser read last.
+frame_info parsed_frame;
 
 } // namespace
 
@@ -50,67 +64,27 @@ void brix_clear_line_cache() {
     lineno_cache.clear();
 }
 
-namespace {
-
-// Places the command of one frame from what `info frame` tells of it: whether its type is
-// "proc", its line (0 when it names none), its command text and its procedure, if any.
-void place_frame(bool proc_type, int frame_line, std::string_view cmd, const char* proc) {
-    // The command's name, also when it is called by its qualified name.
-    if (cmd.substr(0, 2) == "::") {
-        cmd.remove_prefix(2);
-    }
-    const std::string name(cmd.substr(0, cmd.find_first_of(" \t")));
-
-    free(tmp_brix_proc_filename);
-    tmp_brix_proc_filename = nullptr;
-    tmp_brix_proc_linenum = 0;
-
-    if (!proc_type || proc == nullptr) {
-        if (name == "source") {
-            tmp_brix_cmd_frame_linenum = -1;
-        } else if (get_str2int_map_value(all_purebrix_cmds, name.c_str()) != 0) {
-            tmp_brix_cmd_frame_linenum = frame_line;
-        } else {
-            tmp_brix_cmd_frame_linenum = 0;
-        }
-        return;
-    }
-    // Procedures are known by the name they were defined with, less the leading "::".
-    const char* key = strlen(proc) >= 2 ? proc + 2 : proc;
-    const char* place = get_str2str_map_value(all_procs_location_info, key);
-    if (place == nullptr) {
-        brix_error("Error: invalid command name \"%s\"\n", key);
-    }
-    // "<file> <line>"; the line follows the last blank.
-    const char* blank = strrchr(place, ' ');
-    tmp_brix_proc_filename = strndup(place, static_cast<std::size_t>(blank - place));
-    tmp_brix_proc_linenum = atoi(blank + 1);
-    tmp_brix_cmd_frame_linenum = frame_line;
-}
-
-} // namespace
-
 // Receives the key-value words of one `info frame` answer. 8.6 orders the keys by frame
 // type ("file" comes before "cmd" in a source frame), so they are read by key.
 int brix_parse_info_frame_level_info(ClientData, Tcl_Interp*, int argc, const char** argv) {
-    const char* type = "";
-    const char* line = "0";
-    const char* cmd = "";
-    const char* proc = nullptr;
+    frame_info frame;
     for (int i = 1; i + 1 < argc; i += 2) {
-        const char* key = argv[i];
+        const std::string_view key = argv[i];
         const char* value = argv[i + 1];
-        if (strcmp(key, "type") == 0) {
-            type = value;
-        } else if (strcmp(key, "line") == 0) {
-            line = value;
-        } else if (strcmp(key, "cmd") == 0) {
-            cmd = value;
-        } else if (strcmp(key, "proc") == 0) {
-            proc = value;
+        if (key == "type") {
+            frame.proc_type = strcmp(value, "proc") == 0;
+        } else if (key == "line") {
+            frame.line = atoi(value);
+        } else if (key == "cmd") {
+            frame.text = value;
+        } else if (key == "proc") {
+            frame.proc = value;
+        } else if (key == "lambda") {
+            frame.lambda = true;
         }
     }
-    place_frame(strcmp(type, "proc") == 0, atoi(line), cmd, proc);
+    parsed_frame = std::move(frame);
+    parsed_frame.cmd = parsed_frame.text;
     return TCL_OK;
 }
 
@@ -137,9 +111,7 @@ int parse_frame_answer() {
     Tcl_DecrRefCount(answer);
     return status;
 }
-} // namespace
 
-namespace {
 // Tcl's own `frame` of `info`, while `info` is still Tcl's own; else null.
 const Tcl_CmdInfo* own_info_frame() {
     static Tcl_Obj* const info = brix_cached_obj("info");
@@ -154,21 +126,152 @@ const Tcl_CmdInfo* own_info_frame() {
     }
     return &tcl_frame;
 }
-} // namespace
 
-// Asks "info frame -1" from the command being run, for the frame of that command. When
-// `info` is still Tcl's own, its `frame` is called straight, with level 0, which names the
-// same frame there: the evaluation of the script would push a frame of its own.
-int query_frame() {
-    static Tcl_Obj* const query = brix_cached_obj("info frame -1");
-    static Tcl_Obj* const frame_args[] = {brix_cached_obj("frame"), brix_cached_obj("0")};
-    if (const Tcl_CmdInfo* frame = own_info_frame()) {
-        return frame->objProc(frame->objClientData, brixgen_interp, 2, frame_args);
-    }
-    return Tcl_EvalObjEx(brixgen_interp, query, 0);
+bool query_failed(int status) {
+    return status == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0';
 }
 
-namespace {
+// The level of the command being run, as `info frame` counts; -1 when the query fails.
+int queried_depth() {
+    static Tcl_Obj* const query = brix_cached_obj("info frame");
+    if (query_failed(Tcl_EvalObjEx(brixgen_interp, query, 0))) {
+        return -1;
+    }
+    // The evaluation of the query is a frame of its own.
+    int depth = 0;
+    Tcl_GetIntFromObj(nullptr, Tcl_GetObjResult(brixgen_interp), &depth);
+    return depth - 1;
+}
+
+// Reads the frame `out` levels outside the command being run, by asking `info frame`.
+// When `info` is still Tcl's own, its `frame` is called straight, which counts from the
+// command's own frame; an evaluated query would push a frame of its own.
+bool query_frame(int out) {
+    static Tcl_Obj* const frame_word = brix_cached_obj("frame");
+    if (const Tcl_CmdInfo* frame = own_info_frame()) {
+        Tcl_Obj* level = Tcl_NewIntObj(-out);
+        Tcl_IncrRefCount(level);
+        Tcl_Obj* const args[] = {frame_word, level};
+        const int status = frame->objProc(frame->objClientData, brixgen_interp, 2, args);
+        Tcl_DecrRefCount(level);
+        if (query_failed(status)) {
+            return false;
+        }
+    } else {
+        const std::string query = "info frame -" + std::to_string(out + 1);
+        if (query_failed(Tcl_Eval(brixgen_interp, query.c_str()))) {
+            return false;
+        }
+    }
+    return !query_failed(parse_frame_answer());
+}
+
+int fold_line(int sum, int line) {
+    if (line <= 0) {
+        return sum;
+    }
+    return sum == 0 ? line : sum + line - 1;
+}
+
+// Where a walk over the frames has got to.
+struct frame_walk {
+    const lineno_cache_entry* anchor; // null outside any script
+    int sum = 0;
+    // Within a procedure body, below a frame of it that names no procedure (`namespace
+    // eval`): its lines already count within that body.
+    bool in_body = false;
+    // The last frame added ran a lambda body, which counts from the `apply` around it.
+    bool after_lambda = false;
+    const char* file = nullptr;
+    bool done = false;
+    int depth = 0; // the level of the command's own frame
+};
+
+// Places the procedure body a frame of type "proc" runs in from the procedure's definition.
+void place_in_procedure(frame_walk& walk, const std::string& proc) {
+    // Procedures are known by the name they were defined with, less the leading "::".
+    const char* key = proc.size() >= 2 ? proc.c_str() + 2 : proc.c_str();
+    const char* place = get_str2str_map_value(all_procs_location_info, key);
+    if (place == nullptr) {
+        brix_error("Error: invalid command name \"%s\"\n", key);
+    }
+    // "<file> <line>"; the line follows the last blank.
+    const char* blank = strrchr(place, ' ');
+    static std::string file;
+    file.assign(place, static_cast<std::size_t>(blank - place));
+    walk.sum += atoi(blank + 1) - 1;
+    walk.file = file.c_str();
+    walk.done = true;
+}
+
+// Takes one frame, going outward: the command's own frame first.
+void step(frame_walk& walk, const frame_info& frame) {
+    const std::string_view name = frame.cmd.substr(0, frame.cmd.find_first_of(" \t"));
+    if (frame.proc_type && !frame.proc.empty()) {
+        if (!walk.in_body) {
+            walk.sum = fold_line(walk.sum, frame.line);
+        }
+        place_in_procedure(walk, frame.proc);
+        return;
+    }
+    if (walk.in_body) {
+        // A lambda body's frame ends the run of frames within it.
+        walk.in_body = !frame.lambda;
+        return;
+    }
+    if (frame.proc_type && !frame.lambda) {
+        walk.sum = fold_line(walk.sum, frame.line);
+        walk.in_body = true;
+        return;
+    }
+    if (name == "source") {
+        walk.done = true;
+        return;
+    }
+    const bool adds = walk.after_lambda ||
+                      get_str2int_map_value(all_purebrix_cmds, std::string(name).c_str()) != 0;
+    walk.after_lambda = adds && frame.lambda;
+    if (adds) {
+        walk.sum = fold_line(walk.sum, frame.line);
+    }
+}
+
+// The place the walk ends at: the anchored script, or a procedure's definition.
+int finish(frame_walk& walk, const char** file_out) {
+    Tcl_ResetResult(brixgen_interp);
+    if (walk.file == nullptr) {
+        if (walk.anchor == nullptr) {
+            walk.file = reading_brix_file;
+        } else {
+            walk.sum = fold_line(walk.sum, walk.anchor->file_line);
+            walk.file = walk.anchor->file_name.c_str();
+        }
+    }
+    *file_out = walk.file;
+    return walk.sum;
+}
+
+// The level below which the anchored script's commands stand.
+int anchor_level() {
+    return lineno_cache.empty() ? 0 : lineno_cache.back().level;
+}
+
+// The walk on the answers of `info frame`; false when a query fails.
+bool walk_queried(frame_walk& walk) {
+    walk.depth = queried_depth();
+    if (walk.depth < 0) {
+        return false;
+    }
+    for (int out = 0; !walk.done && walk.depth - out > anchor_level(); ++out) {
+        if (!query_frame(out)) {
+            return false;
+        }
+        step(walk, parsed_frame);
+    }
+    return true;
+}
+
+#if BRIX_TCL_PRIVATE
 // The text `info frame` gives as a frame's "cmd".
 std::string_view frame_command(const CmdFrame& frame) {
     if (frame.cmdObj != nullptr) {
@@ -180,34 +283,24 @@ std::string_view frame_command(const CmdFrame& frame) {
     return {};
 }
 
-// Places the command being run from its frame, read where `info frame 0` reads it and as
-// it reads it, without building the answer, whose objects would cost more than all the
-// rest. False, where that reading is not this one (a coroutine stitches frames together,
-// a frame of another kind), for the query to be asked.
-bool place_frame_directly() {
-    static Tcl_Obj* const proc_name = brix_cached_obj("");
-    if (own_info_frame() == nullptr) {
-        return false;
-    }
-    const auto* interp = reinterpret_cast<Interp*>(brixgen_interp);
-    const CmdFrame* frame = interp->cmdFramePtr;
-    if (interp->execEnvPtr->corPtr != nullptr || frame == nullptr || frame->level < 1) {
-        return false;
-    }
-    CmdFrame where = *frame;
-    int line = 0;
-    std::string_view cmd;
-    switch (frame->type) {
+// Reads one frame where `info frame` reads it and as it reads it, without building the
+// answer, whose objects would cost more than all the rest. False for a frame of a kind
+// this reading does not know.
+bool read_frame(const CmdFrame& frame, frame_info& out) {
+    CmdFrame where = frame;
+    out.line = 0;
+    out.cmd = {};
+    switch (frame.type) {
     case TCL_LOCATION_EVAL:
-        line = frame->line != nullptr ? frame->line[0] : 1;
-        cmd = frame_command(where);
+        out.line = frame.line != nullptr ? frame.line[0] : 1;
+        out.cmd = frame_command(where);
         break;
     case TCL_LOCATION_SOURCE:
-        if (frame->line == nullptr) {
+        if (frame.line == nullptr) {
             return false;
         }
-        line = frame->line[0];
-        cmd = frame_command(where);
+        out.line = frame.line[0];
+        out.cmd = frame_command(where);
         break;
     case TCL_LOCATION_PREBC:
         break;
@@ -215,55 +308,96 @@ bool place_frame_directly() {
         TclGetSrcInfoForPc(&where);
         if (where.type == TCL_LOCATION_SOURCE) {
             Tcl_DecrRefCount(where.data.eval.path);
-            line = where.line != nullptr ? where.line[0] : 1;
+            out.line = where.line != nullptr ? where.line[0] : 1;
         } else if (where.line != nullptr) {
-            line = where.line[0];
+            out.line = where.line[0];
         } else {
             return false;
         }
-        cmd = frame_command(where);
+        out.cmd = frame_command(where);
         break;
     default:
         return false;
     }
-    // The procedure the frame runs in, by its full name, as `info frame` names it.
-    // Only a frame of type "proc" is placed from it.
-    const bool proc_type = where.type == TCL_LOCATION_PROC;
-    const char* proc = nullptr;
-    const Proc* proc_ptr = frame->framePtr != nullptr ? frame->framePtr->procPtr : nullptr;
-    if (proc_type && proc_ptr != nullptr && proc_ptr->cmdPtr->hPtr != nullptr) {
-        Tcl_SetObjLength(proc_name, 0);
-        Tcl_GetCommandFullName(brixgen_interp, reinterpret_cast<Tcl_Command>(proc_ptr->cmdPtr),
-                               proc_name);
-        proc = Tcl_GetString(proc_name);
+    // The procedure or lambda the frame runs in, as `info frame` names it.
+    out.proc_type = where.type == TCL_LOCATION_PROC;
+    out.proc.clear();
+    const Proc* proc = frame.framePtr != nullptr ? frame.framePtr->procPtr : nullptr;
+    out.lambda = proc != nullptr && proc->cmdPtr->hPtr == nullptr && proc->cmdPtr->clientData;
+    if (out.proc_type && proc != nullptr && proc->cmdPtr->hPtr != nullptr) {
+        static Tcl_Obj* const name = brix_cached_obj("");
+        Tcl_SetObjLength(name, 0);
+        Tcl_GetCommandFullName(brixgen_interp, reinterpret_cast<Tcl_Command>(proc->cmdPtr), name);
+        out.proc = Tcl_GetString(name);
     }
-    place_frame(proc_type, line, cmd, proc);
     return true;
 }
+
+// The walk on the interpreter's own frames; false where that reading is not `info
+// frame`'s (a coroutine stitches frames together, a frame of another kind), for the
+// frames to be asked for.
+bool walk_directly(frame_walk& walk) {
+    if (!brix_tcl_internals || own_info_frame() == nullptr) {
+        return false;
+    }
+    const auto* interp = reinterpret_cast<Interp*>(brixgen_interp);
+    const CmdFrame* frame = interp->cmdFramePtr;
+    if (interp->execEnvPtr->corPtr != nullptr || frame == nullptr || frame->level < 1) {
+        return false;
+    }
+    static frame_info info;
+    walk.depth = frame->level;
+    const int anchor = anchor_level();
+    for (; !walk.done && frame != nullptr && frame->level > anchor; frame = frame->nextPtr) {
+        if (!read_frame(*frame, info)) {
+            return false;
+        }
+        step(walk, info);
+    }
+    return true;
+}
+
+// The level of the command being run, without a query when the frames may be read.
+int current_depth() {
+    const auto* interp = reinterpret_cast<Interp*>(brixgen_interp);
+    if (brix_tcl_internals && interp->execEnvPtr->corPtr == nullptr) {
+        return interp->cmdFramePtr != nullptr ? interp->cmdFramePtr->level : 0;
+    }
+    return queried_depth();
+}
+#else
+bool walk_directly(frame_walk&) {
+    return false;
+}
+int current_depth() {
+    return queried_depth();
+}
+#endif
+
+} // namespace
+
+void brix_push_file_anchor(const char* path) {
+    // The top file is evaluated before any command runs.
+    const int level = reading_brix_file == nullptr ? 0 : current_depth();
+    brix_push_line_anchor({level, 0, path});
+}
+
+namespace {
+// The level of the command placed last.
+int placed_depth = 0;
 } // namespace
 
 int get_current_brix_file_line_num(const char** file_out) {
-    if (!place_frame_directly()) {
-        if (query_frame() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
+    const lineno_cache_entry* anchor = lineno_cache.empty() ? nullptr : &lineno_cache.back();
+    frame_walk walk{anchor};
+    if (!walk_directly(walk)) {
+        walk = frame_walk{anchor};
+        if (!walk_queried(walk)) {
             return 1;
         }
-        if (parse_frame_answer() == TCL_ERROR && *Tcl_GetStringResult(brixgen_interp) != '\0') {
-            return 1;
-        }
     }
-    Tcl_ResetResult(brixgen_interp);
-    const int line = tmp_brix_cmd_frame_linenum;
-    if (tmp_brix_proc_filename != nullptr) {
-        *file_out = tmp_brix_proc_filename;
-        return line + tmp_brix_proc_linenum - 1;
-    }
-    if (line <= 0 || lineno_cache.empty()) {
-        *file_out = reading_brix_file;
-        return line < 0 ? 0 : line;
-    }
-    const lineno_cache_entry& anchor = lineno_cache.back();
-    *file_out = anchor.file_name.c_str();
-    return line + anchor.file_line - anchor.frame_line;
+    placed_depth = walk.depth;
+    return finish(walk, file_out);
 }
 
 void brix_hashline_text(std::string& text, lineno_cache_entry* where) {
@@ -273,7 +407,7 @@ void brix_hashline_text(std::string& text, lineno_cache_entry* where) {
         position_failed();
     }
     if (where != nullptr) {
-        *where = {1, line, file};
+        *where = {placed_depth, line, file};
     }
     char number[16];
     char* end = std::to_chars(number, number + sizeof number, line).ptr;

@@ -54,16 +54,71 @@ TEST(ExpandLines, NestedBodiesAndLoopsCountFromTheFile) {
                      "17 top.brix", "19 top.brix", "22 top.brix"}));
 }
 
-// A coroutine stitches its frames onto its caller's; a procedure run in one is still placed
-// from its definition.
-TEST(ExpandLines, ProcInCoroutineCountsFromTheDefinition) {
-    EXPECT_EQ(hash_lines(expand_test::expand_script("proc mk {} {\n"
-                                                    "  bytes 1\n"
-                                                    "}\n"
-                                                    "block b {\n"
-                                                    "  coroutine co mk\n"
-                                                    "}\n")),
+// Runs `script` twice, reading Tcl's frames and channel state directly and through Tcl's
+// public commands and calls only; both runs must write the same.
+std::string on_both_paths(const std::string& script) {
+    const bool built_with_them = brix_tcl_internals;
+    const std::string direct = expand_test::expand_script(script);
+    brix_tcl_internals = false;
+    const std::string asked = expand_test::expand_script(script);
+    brix_tcl_internals = built_with_them;
+    EXPECT_EQ(direct, asked) << script;
+    return asked;
+}
+
+// Scripts that a procedure evaluates count from the line that evaluates them; a lambda
+// body from its `apply`; a declaration reached through a word that names no description
+// command stands at the declaration around it. A coroutine stitches its frames onto its
+// caller's.
+TEST(ExpandLines, EvaluatedScriptsAndIndirectCalls) {
+    struct placed {
+        const char* script;
+        lines want;
+    };
+    const placed cases[] = {
+        {"proc mk {} {\n  uplevel 1 {\n\n    bytes 1\n  }\n}\nblock b {\n  mk\n}\n",
+         {"7 top.brix", "4 top.brix"}},
+        {"proc mk {} {\n  set t \"\\nbytes 1\"\n  eval $t\n}\nmk\n", {"4 top.brix"}},
+        {"proc mk {} {\n  register r {\n    namespace eval ns {\n\n      bytes 1 }}\n}\nmk\n",
+         {"2 top.brix", "5 top.brix"}},
+        {"namespace eval ns {\n  bytes 1\n}\n\napply {{} {\n  bytes 2\n}}\n",
+         {"2 top.brix", "6 top.brix"}},
+        {"coroutine co apply {{} {\n  uplevel 1 {\n\n  bytes 1 }\n}}\n", {"4 top.brix"}},
+        {"interp alias {} reg {} register\nproc mk {} { tailcall bytes 3 }\nblock b {\n"
+         "  {*}[list bytes 1]\n  reg r\n  mk\n}\n",
+         {"3 top.brix", "3 top.brix", "3 top.brix", "3 top.brix"}},
+    };
+    for (const placed& c : cases) {
+        EXPECT_EQ(hash_lines(on_both_paths(c.script)), c.want) << c.script;
+    }
+}
+
+// Tcl's public paths, taken when the library is not the release the program was built
+// with, write what the direct reading writes; so do the paths a script steers the writes
+// and the queries onto.
+TEST(ExpandRun, PublicPathsWriteWhatTheDirectOnesWrite) {
+    const std::string decls = "block b {\n  register r {\n    bytes 1\n  }\n}\n";
+    const std::string plain = on_both_paths("\n" + decls);
+    ASSERT_EQ(hash_lines(plain), (lines{"2 top.brix", "3 top.brix", "4 top.brix"}));
+    for (const char* steer : {
+             "rename info tcl_info; interp alias {} info {} tcl_info\n",
+             "rename info tcl_info; interp alias {} info {} apply {args {tailcall tcl_info "
+             "{*}$args}}\n",
+             "rename puts tcl_puts; proc puts args { tcl_puts {*}$args }\n",
+         }) {
+        EXPECT_EQ(on_both_paths(steer + decls), plain) << steer;
+    }
+    EXPECT_EQ(on_both_paths("fconfigure stdout -encoding iso8859-1\nbytes \\u00e9\n"),
+              hash(2) + "bytes \xe9 \n");
+    EXPECT_EQ(on_both_paths("fconfigure stdout -encoding utf-8\nbytes \\u00e9\n"),
+              hash(2) + "bytes \xc3\xa9 \n");
+    EXPECT_EQ(on_both_paths("fconfigure stdout -translation crlf\nbytes 1\n"),
+              "BRIX_HASHLINE 2 top.brix\r\nbytes 1 \r\n");
+    EXPECT_EQ(hash_lines(on_both_paths("proc mk {} {\n  bytes 1\n}\nblock b {\n"
+                                       "  coroutine co mk\n}\n")),
               (lines{"4 top.brix", "2 top.brix"}));
+    EXPECT_EQ(on_both_paths("namespace eval ns {}\nproc ns::mk {} {\n  bytes 1\n}\nns::mk\n"),
+              hash(3) + "bytes 1 \n");
 }
 
 TEST(ExpandLines, ProcBodiesCountFromTheDefinitionNotTheCall) {
@@ -205,6 +260,10 @@ TEST(ExpandRun, FailuresEndTheRunAndRemoveThePureFile) {
         {"proc a b\n", "Wrong # args: should be \"proc name args body\"\n\n"},
         {"namespace eval ns { proc a {} { bytes 1 } }\nns::a\n",
          "Error: invalid command name \"ns::a\"\n\n"},
+        // No description command frame around, by name or by place.
+        {"::bytes 1\n", "Fatal Internal Error: get_current_brix_file_line_num() failed...\n\n"},
+        {"{*}[list bytes 1]\n",
+         "Fatal Internal Error: get_current_brix_file_line_num() failed...\n\n"},
     };
     for (const failure& c : cases) {
         scratch_dir dir;
