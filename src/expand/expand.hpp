@@ -58,7 +58,8 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
 // Tcl's own `puts`, as found once the interpreter is set up.
 extern Tcl_Command tcl_puts;
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
-// brix_release_tcl_stdout, a seek, a child process or the channel's end.
+// brix_release_tcl_stdout, a seek, a child process, a flush or `open` by the script, or
+// the channel's end.
 void brix_hold_tcl_stdout();
 // Writes what Tcl's stdout holds to descriptor 1; called before anything else writes there.
 void brix_release_tcl_stdout();
