@@ -55,8 +55,11 @@ bool brix_write_direct(Tcl_Channel out, std::string_view text);
 // True when the channel would write `text` as it stands (ASCII only, into an encoding
 // that keeps ASCII, newlines left alone), so that it may skip the conversion.
 bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
-// Tcl's own `puts`, as found once the interpreter is set up.
-extern Tcl_Command tcl_puts;
+// The procedure of Tcl's own `puts`, as found once the interpreter is set up.
+extern Tcl_ObjCmdProc* tcl_puts_proc;
+// True when no execution trace could see an evaluation of `command` now: none on the
+// command itself, and no step trace of an enclosing procedure.
+bool brix_untraced(Tcl_Command command);
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
 // brix_release_tcl_stdout, a seek, a child process, a flush or `open` by the script, or
 // the channel's end.

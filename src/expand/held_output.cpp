@@ -214,6 +214,11 @@ void brix_release_tcl_stdout() {
     }
 }
 
+bool brix_untraced(Tcl_Command command) {
+    return reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
+           reinterpret_cast<Command*>(command)->tracePtr == nullptr;
+}
+
 // The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
 // fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
 bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
