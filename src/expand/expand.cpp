@@ -17,7 +17,7 @@
 #include <unistd.h>
 
 Tcl_Interp* brixgen_interp = nullptr;
-Tcl_Command tcl_puts = nullptr;
+Tcl_ObjCmdProc* tcl_puts_proc = nullptr;
 const char* reading_brix_file = nullptr;
 unsigned long long brix_tcl_error_linenum = 0;
 char* user_pwd = nullptr;
@@ -139,7 +139,9 @@ void setup_interpreter() {
     brix_tcl_internals = brix_tcl_internals && same_tcl_release();
     brixgen_interp = Tcl_CreateInterp();
     Tcl_Init(brixgen_interp);
-    tcl_puts = Tcl_FindCommand(brixgen_interp, "::puts", nullptr, TCL_GLOBAL_ONLY);
+    Tcl_CmdInfo puts;
+    tcl_puts_proc =
+        Tcl_GetCommandInfo(brixgen_interp, "::puts", &puts) != 0 ? puts.objProc : nullptr;
     brix_hold_tcl_stdout();
     brix_add_exit_hook(brix_release_tcl_stdout);
     for (const char* rename :
@@ -230,9 +232,14 @@ bool brix_plain_text(std::string_view text) {
 
 Tcl_Channel brix_direct_writes() {
     // The `puts` that a script would call, found from the current namespace as Tcl finds
-    // it, must be Tcl's own, and it must find the channel writable.
+    // it, must be Tcl's own, seen by no trace, and it must find the channel writable. A
+    // command is told by its procedure: the token of one that has been deleted may come
+    // back for another.
     static Tcl_Obj* const puts = brix_cached_obj("puts");
-    if (Tcl_GetCommandFromObj(brixgen_interp, puts) != tcl_puts) {
+    const Tcl_Command command = Tcl_GetCommandFromObj(brixgen_interp, puts);
+    Tcl_CmdInfo info;
+    if (command == nullptr || Tcl_GetCommandInfoFromToken(command, &info) == 0 ||
+        info.objProc != tcl_puts_proc || tcl_puts_proc == nullptr || !brix_untraced(command)) {
         return nullptr;
     }
     int mode = 0;

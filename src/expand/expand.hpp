@@ -62,10 +62,15 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
 // Whether Tcl's private structures may be read: built with them, and the library running
 // is the release they were taken from. Set at set-up; the public paths serve otherwise.
 extern bool brix_tcl_internals;
-// Tcl's own `puts`, as found once the interpreter is set up.
-extern Tcl_Command tcl_puts;
+// The procedure of Tcl's own `puts`, as found once the interpreter is set up.
+extern Tcl_ObjCmdProc* tcl_puts_proc;
+// True when no execution trace could see an evaluation of `command` now: none on the
+// command itself, and no step trace of an enclosing procedure. Without Tcl's private
+// structures in view, never.
+bool brix_untraced(Tcl_Command command);
 // Stacks the holding channel on Tcl's stdout: it keeps what Tcl writes until
-// brix_release_tcl_stdout, a seek, a child process or the channel's end.
+// brix_release_tcl_stdout, a seek, a child process, a flush or `open` by the script, or
+// the channel's end.
 void brix_hold_tcl_stdout();
 // Writes what Tcl's stdout holds to descriptor 1; called before anything else writes there.
 void brix_release_tcl_stdout();

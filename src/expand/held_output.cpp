@@ -3,11 +3,13 @@
 // at each of those points and holds it, and writes it to the channel below in big pieces.
 // What reaches the file is the same, and in the same place: the held bytes go down before
 // anything else can write to descriptor 1 (stdio, a child process started by `exec` or
-// `open`, a seek, the end of the channel, the end of the run).
+// `open` in any interpreter, a seek, the end of the channel, the end of the run) and
+// whenever the script could see the file (its own `flush`, an `open`).
 #include "expand/expand.hpp"
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <iterator>
 #include <string>
 #if BRIX_TCL_PRIVATE
@@ -134,32 +136,64 @@ const Tcl_ChannelType held_channel_type = {
     nullptr,   held_truncate,
 };
 
-// Tcl's `exec` and `open`, which can start child processes that inherit descriptor 1.
-struct tcl_command {
-    Tcl_ObjCmdProc* proc = nullptr;
-    ClientData data = nullptr;
+// Tcl's commands through which a script can see the file or hand descriptor 1 to a child
+// process, in every interpreter that the script makes.
+enum class watched { exec, open, flush, interp };
+struct watched_command {
+    watched kind;
+    Tcl_ObjCmdProc* proc;
+    ClientData data;
 };
-tcl_command tcl_exec;
-tcl_command tcl_open;
 
-// Runs Tcl's own command; before a child process can write to descriptor 1, what is held
-// goes there, and from then on nothing is held, as the child may go on writing.
-int child_starting_command(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
-    const tcl_command& original = *static_cast<const tcl_command*>(data);
-    if (&original == &tcl_exec || (objc > 1 && Tcl_GetString(objv[1])[0] == '|')) {
-        release();
-        write_through = true;
-    }
-    return original.proc(original.data, interp, objc, objv);
+void watch_interp(Tcl_Interp* interp);
+
+bool names_subcommand(int objc, Tcl_Obj* const objv[], const char* name) {
+    return objc > 1 && strcmp(Tcl_GetString(objv[1]), name) == 0;
 }
 
-void wrap_command(const char* name, tcl_command& original) {
+// Runs Tcl's own command. What is held goes down before the script can read the file
+// (`open` of it) or a child process can write to it, and from a child's start on nothing
+// is held, as the child may go on writing; a `flush` by the script lets it down too.
+int run_watched(ClientData data, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
+    const watched_command& cmd = *static_cast<const watched_command*>(data);
+    if (cmd.kind == watched::exec || cmd.kind == watched::open) {
+        release();
+        write_through = write_through || cmd.kind == watched::exec ||
+                        (objc > 1 && Tcl_GetString(objv[1])[0] == '|');
+    }
+    const int status = cmd.proc(cmd.data, interp, objc, objv);
+    if (cmd.kind == watched::flush) {
+        release();
+    } else if (cmd.kind == watched::interp && status == TCL_OK &&
+               names_subcommand(objc, objv, "create")) {
+        if (Tcl_Interp* child = Tcl_GetSlave(interp, Tcl_GetStringResult(interp))) {
+            watch_interp(child);
+        }
+    }
+    return status;
+}
+
+void forget_watched(ClientData data) {
+    delete static_cast<watched_command*>(data);
+}
+
+void watch_command(Tcl_Interp* interp, const char* name, watched kind) {
     Tcl_CmdInfo info;
-    if (Tcl_GetCommandInfo(brixgen_interp, name, &info) == 0 || info.objProc == nullptr) {
+    if (Tcl_GetCommandInfo(interp, name, &info) == 0 || info.objProc == nullptr ||
+        info.objProc == run_watched) {
         return;
     }
-    original = {info.objProc, info.objClientData};
-    Tcl_CreateObjCommand(brixgen_interp, name, child_starting_command, &original, nullptr);
+    Tcl_CreateObjCommand(interp, name, run_watched,
+                         new watched_command{kind, info.objProc, info.objClientData},
+                         forget_watched);
+}
+
+void watch_interp(Tcl_Interp* interp) {
+    watch_command(interp, "::exec", watched::exec);
+    watch_command(interp, "::open", watched::open);
+    watch_command(interp, "::flush", watched::flush);
+    watch_command(interp, "::tcl::chan::flush", watched::flush);
+    watch_command(interp, "::interp", watched::interp);
 }
 
 } // namespace
@@ -173,8 +207,7 @@ void brix_hold_tcl_stdout() {
     held.clear();
     write_through = false;
     Tcl_StackChannel(brixgen_interp, &held_channel_type, nullptr, TCL_WRITABLE, out);
-    wrap_command("exec", tcl_exec);
-    wrap_command("open", tcl_open);
+    watch_interp(brixgen_interp);
 }
 
 void brix_release_tcl_stdout() {
@@ -184,6 +217,12 @@ void brix_release_tcl_stdout() {
 }
 
 #if BRIX_TCL_PRIVATE
+bool brix_untraced(Tcl_Command command) {
+    return brix_tcl_internals &&
+           reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
+           reinterpret_cast<Command*>(command)->tracePtr == nullptr;
+}
+
 // The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
 // fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
 bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
@@ -232,6 +271,11 @@ bool brix_hold_directly(Tcl_Channel out, std::string_view text) {
     return true;
 }
 #else
+// Without the interpreter's state in view, a trace may be watching: every piece goes
+// through an evaluated `puts`.
+bool brix_untraced(Tcl_Command) {
+    return false;
+}
 // Without the channel's state in view, every write converts.
 bool brix_passes_unconverted(Tcl_Channel, std::string_view) {
     return false;
