@@ -285,6 +285,7 @@ void read_model(const run_request& run) {
                 pure_brix_file);
         brix_exit(1);
     }
+    brix_scanner_restart(yyin);
     initialize();
     yyparse();
     check_semantics(run.top);
