@@ -201,17 +201,4 @@ TEST(Maps, FreeModesLeaveWhatTheyDoNotOwn) {
     free_str2voidptr_map(ptrs, 0);
 }
 
-TEST(Maps, CounterStepAddsNewKeysAtTheChainsEnd) {
-    brix_str2int_map map;
-    add_str2int_map_entry(map, strdup("ba"), 5);
-    update_str2int_map(map, strdup("ab")); // same bucket, new key
-    update_str2int_map(map, strdup("ba"));
-    std::vector<std::pair<std::string, long long>> chain;
-    for (auto* n = map.buckets[brix_hash_key("ab") % BRIX_STR2INT_MAP_SIZE]; n; n = n->next) {
-        chain.emplace_back(n->key, n->value);
-    }
-    EXPECT_EQ(chain, (std::vector<std::pair<std::string, long long>>{{"ba", 6}, {"ab", 1}}));
-    free_str2int_map(map);
-}
-
 } // namespace
