@@ -124,122 +124,127 @@ void brix_name_pure_file() {
     }
 }
 
-int brix_main(int argc, char** argv) {
-    print_banner();
-    Tcl_FindExecutable(argv[0]);
+namespace {
 
+// What the command line names besides the option flags.
+struct run_request {
     char* top = nullptr;
     char* top_domain = nullptr;
-    int c;
-    while ((c = getopt(argc, argv, "c:t:d:l:bvheqI:o:")) != -1) {
-        if (c < '?' || c > 'v') {
-            fprintf(stderr, "?? getopt returned character code 0%o ??\n", c);
-            exit(1);
-        }
-        switch (c) {
-        case 't':
-            if (top != nullptr) {
-                usage_error("Error: <top> can be specified only once.\n");
-            }
-            top = strdup(optarg);
-            break;
-        case 'd':
-            if (top_domain != nullptr) {
-                usage_error("Error: <top_domain> can be specified only once.\n");
-            }
-            top_domain = strdup(optarg);
-            break;
-        case 'l':
-            if (target_language != nullptr) {
-                usage_error("Error: <lang> can be specified only once.\n");
-            }
-            if (strcmp(optarg, "sv") != 0 && strcmp(optarg, "hx") != 0) {
-                usage_error("Error: The specified target language '%s' is not supported.\n",
-                            optarg);
-            }
-            target_language = strdup(optarg);
-            break;
-        case 'c':
-            if (optarg == nullptr) {
-                usage_error("Error: No coverage model specified with '-c' option.\n");
-            }
-            for (const char* p = optarg; *p != '\0'; ++p) {
-                if (*p == 'b') {
-                    brix_cvr_reg_bits = 1;
-                } else if (*p == 'a') {
-                    brix_cvr_addr_map = 1;
-                } else if (*p == 'f') {
-                    brix_cvr_field_vals = 1;
-                } else {
-                    usage_error_char("Error: Unknown coverage model '%c'.\n", *p);
-                }
-            }
-            break;
-        case 'b':
-            brix_gen_backdoor = 1;
-            break;
-        case 'e':
-            brix_ext_ud = 1;
-            break;
-        case 'q':
-            brix_quiet_mode = 1;
-            break;
-        case 'I': {
-            char* dir = get_absolute_path(optarg);
-            if (brix_inc_dirs == nullptr) {
-                brix_inc_dirs = dir;
-            } else {
-                const std::size_t size = strlen(brix_inc_dirs) + strlen(dir) + 2;
-                char* joined = static_cast<char*>(malloc(size));
-                snprintf(joined, size, "%s:%s", brix_inc_dirs, dir);
-                free(brix_inc_dirs);
-                free(dir);
-                brix_inc_dirs = joined;
-            }
-            break;
-        }
-        case 'o':
-            ofile = optarg;
-            break;
-        case 'h':
-            show_brixgen_help();
-            exit(0);
-        case 'v':
-            printf("brixgen version %d.%d.%d (Requires BRX Version 1.9.0 or above)\n",
-                   version_major, version_minor, version_patch);
-            exit(0);
-        // The option string does not list g, p and P; these branches stay dormant.
-        case 'g':
-            brix_gen_c_interface = 1;
-            break;
-        case 'p':
-            if (brix_backdoor_top_path != nullptr) {
-                usage_error("Error: <BRX Backdoor top_path> can be specified only once.\n");
-            }
-            brix_backdoor_top_path = strdup(optarg);
-            break;
-        case 'P':
-            if (brix_vhdl_backdoor_top_path != nullptr) {
-                usage_error("Error: <VHDL Backdoor Connector Instance Path> can be specified "
-                            "only once.\n");
-            }
-            brix_vhdl_backdoor_top_path = strdup(optarg);
-            break;
-        case '?':
-            usage_error_char("Error: Unknown option character '%c' specified.\n", optopt);
-        default:
-            fprintf(stderr, "?? getopt returned character code 0%o ??\n", c);
-            exit(1);
+    const char* description_file = nullptr;
+};
+
+// Takes a string option that may be given once.
+void take_once(char*& slot, const char* twice_message) {
+    if (slot != nullptr) {
+        usage_error(twice_message);
+    }
+    slot = strdup(optarg);
+}
+
+void take_language(const char* lang) {
+    if (target_language != nullptr) {
+        usage_error("Error: <lang> can be specified only once.\n");
+    }
+    if (strcmp(lang, "sv") != 0 && strcmp(lang, "hx") != 0) {
+        usage_error("Error: The specified target language '%s' is not supported.\n", lang);
+    }
+    target_language = strdup(lang);
+}
+
+void take_coverage_models(const char* letters) {
+    for (const char* p = letters; *p != '\0'; ++p) {
+        if (*p == 'b') {
+            brix_cvr_reg_bits = 1;
+        } else if (*p == 'a') {
+            brix_cvr_addr_map = 1;
+        } else if (*p == 'f') {
+            brix_cvr_field_vals = 1;
+        } else {
+            usage_error_char("Error: Unknown coverage model '%c'.\n", *p);
         }
     }
+}
 
+// Appends an -I value, made absolute, to the folders joined by ':'.
+void add_include_dir(const char* value) {
+    char* dir = get_absolute_path(value);
+    if (brix_inc_dirs == nullptr) {
+        brix_inc_dirs = dir;
+        return;
+    }
+    const std::size_t size = strlen(brix_inc_dirs) + strlen(dir) + 2;
+    char* joined = static_cast<char*>(malloc(size));
+    snprintf(joined, size, "%s:%s", brix_inc_dirs, dir);
+    free(brix_inc_dirs);
+    free(dir);
+    brix_inc_dirs = joined;
+}
+
+void take_option(int c, run_request& run) {
+    switch (c) {
+    case 't':
+        take_once(run.top, "Error: <top> can be specified only once.\n");
+        break;
+    case 'd':
+        take_once(run.top_domain, "Error: <top_domain> can be specified only once.\n");
+        break;
+    case 'l':
+        take_language(optarg);
+        break;
+    case 'c':
+        take_coverage_models(optarg);
+        break;
+    case 'b':
+        brix_gen_backdoor = 1;
+        break;
+    case 'e':
+        brix_ext_ud = 1;
+        break;
+    case 'q':
+        brix_quiet_mode = 1;
+        break;
+    case 'I':
+        add_include_dir(optarg);
+        break;
+    case 'o':
+        ofile = optarg;
+        break;
+    case 'h':
+        show_brixgen_help();
+        exit(0);
+    case 'v':
+        printf("brixgen version %d.%d.%d (Requires BRX Version 1.9.0 or above)\n", version_major,
+               version_minor, version_patch);
+        exit(0);
+    // The option string does not list g, p and P; these branches stay dormant.
+    case 'g':
+        brix_gen_c_interface = 1;
+        break;
+    case 'p':
+        take_once(brix_backdoor_top_path,
+                  "Error: <BRX Backdoor top_path> can be specified only once.\n");
+        break;
+    case 'P':
+        take_once(brix_vhdl_backdoor_top_path,
+                  "Error: <VHDL Backdoor Connector Instance Path> can be specified only once.\n");
+        break;
+    case '?':
+        usage_error_char("Error: Unknown option character '%c' specified.\n", optopt);
+    default:
+        fprintf(stderr, "?? getopt returned character code 0%o ??\n", c);
+        exit(1);
+    }
+}
+
+// The checks of the whole command line, once every option is read.
+void check_command_line(int argc, char** argv, const run_request& run) {
     if (target_language == nullptr) {
         usage_error("Error: You must specify the target language.\n");
     }
     if (brix_gen_c_interface && language_is_c(target_language)) {
         usage_error("Error: '-gen_c' option cannot be used with '-l c' option.\n");
     }
-    if (top == nullptr) {
+    if (run.top == nullptr) {
         usage_error("Error: You must specify the name of the top-level block/system of your "
                     "BRIX spec.\n");
     }
@@ -250,14 +255,27 @@ int brix_main(int argc, char** argv) {
         usage_error("Error: Too much command line arguments specified. '%s' is unexpected.\n",
                     argv[optind + 1]);
     }
-    if (top_domain != nullptr && !language_is_c(target_language) && brix_gen_c_interface != 1) {
+    if (run.top_domain != nullptr && !language_is_c(target_language) && brix_gen_c_interface != 1) {
         usage_error("Error: '-top_domain' option can only be used with '-l c' or '-gen_c' "
                     "command line options.\n");
     }
-    const char* description_file = argv[optind];
+}
 
+run_request scan_command_line(int argc, char** argv) {
+    run_request run;
+    int c;
+    while ((c = getopt(argc, argv, "c:t:d:l:bvheqI:o:")) != -1) {
+        take_option(c, run);
+    }
+    check_command_line(argc, argv, run);
+    run.description_file = argv[optind];
+    return run;
+}
+
+// The pure description, parsed and checked into the model.
+void read_model(const run_request& run) {
     brix_name_pure_file();
-    expand_tcl_constructs(description_file, pure_brix_file);
+    expand_tcl_constructs(run.description_file, pure_brix_file);
     free(brix_inc_dirs);
     brix_inc_dirs = nullptr;
 
@@ -267,32 +285,44 @@ int brix_main(int argc, char** argv) {
                 pure_brix_file);
         brix_exit(1);
     }
+    brix_scanner_restart(yyin);
     initialize();
     yyparse();
-    check_semantics(top);
+    check_semantics(run.top);
+}
 
+void write_outputs(const run_request& run) {
     if (strcmp(target_language, "sv") == 0) {
-        emit_sv_brx_model(top);
+        emit_sv_brx_model(run.top);
         if (brix_gen_c_interface) {
-            emit_brx_c_ifc_for_sv_model(top, top_domain);
+            emit_brx_c_ifc_for_sv_model(run.top, run.top_domain);
         }
     } else if (strcmp(target_language, "hx") == 0) {
-        emit_hx_brx_model(top);
+        emit_hx_brx_model(run.top);
         if (brix_gen_c_interface) {
-            emit_brx_c_ifc_for_hx_model(top, top_domain);
+            emit_brx_c_ifc_for_hx_model(run.top, run.top_domain);
         }
     } else if (language_is_c(target_language)) {
-        emit_c_brx_model(top, top_domain);
+        emit_c_brx_model(run.top, run.top_domain);
     }
-
     if (brix_cvr_reg_bits == 1 || brix_cvr_addr_map == 1 || brix_cvr_field_vals == 1) {
-        emit_kpl_qvtp_model(top);
+        emit_kpl_qvtp_model(run.top);
     }
+}
+
+} // namespace
+
+int brix_main(int argc, char** argv) {
+    print_banner();
+    Tcl_FindExecutable(argv[0]);
+    run_request run = scan_command_line(argc, argv);
+    read_model(run);
+    write_outputs(run);
 
     free(target_language);
     target_language = nullptr;
-    free(top);
-    free(top_domain);
+    free(run.top);
+    free(run.top_domain);
     fclose(yyin);
     yyin = nullptr;
     unlink(pure_brix_file);

@@ -259,10 +259,10 @@ bool brix_hold_directly(Tcl_Channel out, std::string_view text) {
         (state->flags & CHANNEL_UNBUFFERED) != 0 ||
         ((state->flags & CHANNEL_LINEBUFFERED) != 0 && text.find('\n') != std::string_view::npos);
     const ChannelBuffer* current = state->curOutPtr;
-    if (chan->typePtr != &held_channel_type || state->topChanPtr != chan || !handed_down ||
-        (state->flags & TCL_WRITABLE) == 0 || (state->flags & unusual) != 0 ||
-        state->unreportedError != 0 || state->unreportedMsg != nullptr ||
-        state->csPtrW != nullptr || state->outQueueHead != nullptr ||
+    if (chan->typePtr != &held_channel_type || !handed_down || (state->flags & TCL_WRITABLE) == 0 ||
+        (state->flags & unusual) != 0 || state->unreportedError != 0 ||
+        state->unreportedMsg != nullptr || state->csPtrW != nullptr ||
+        state->outQueueHead != nullptr ||
         (current != nullptr && current->nextAdded != current->nextRemoved)) {
         return false;
     }

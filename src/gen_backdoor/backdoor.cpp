@@ -78,8 +78,8 @@ bool holds(const brix_hdl_path_tag* path, const char* text) {
     return path != nullptr && strstr(path->path, text) != nullptr;
 }
 
-// An array level whose first path holds the variable index that
-// process_backdoor_hdl_path leaves: "[<name>]".
+// An array level whose first path in the hierarchy's view holds the variable index:
+// "[<name>]".
 bool has_variable_index(const bkdr_level& l) {
     std::string index = "[";
     index += l.name;
@@ -87,24 +87,52 @@ bool has_variable_index(const bkdr_level& l) {
     return is_array(l.array_size) && holds(l.hdl_path, index.c_str());
 }
 
-// The level of the object being written, for as long as it is written.
-class hierarchy_level {
+// The level of the object being written, for as long as it is written. brix_hierarchy
+// holds a view of the level's record: a copy whose paths are the backdoor's own, so that
+// the walk reads the model and never rewrites it. An array whose path indexes with "[%d]"
+// keeps the index at run time, through a member of the class named after the level, and
+// its paths name that member in place of "%d".
+template <class Rec> class hierarchy_level {
   public:
-    hierarchy_level(int tag, const void* record) {
-        brix_list_push(&brix_hierarchy, create_brix_list_node(tag, const_cast<void*>(record)));
+    hierarchy_level(int tag, const Rec* record) : view_(*record) {
+        for (const brix_hdl_path_tag* p = record->hdl_path; p != nullptr; p = p->next) {
+            texts_.emplace_back(p->path);
+            paths_.push_back(*p);
+        }
+        for (size_t i = 0; i < paths_.size(); ++i) {
+            paths_[i].path = texts_[i].data();
+            paths_[i].next = i + 1 < paths_.size() ? &paths_[i + 1] : nullptr;
+        }
+        view_.hdl_path = paths_.empty() ? nullptr : paths_.data();
+        if (is_array(view_.array_size) && holds(view_.hdl_path, "[%d]")) {
+            index_with_member();
+        }
+        brix_list_push(&brix_hierarchy, create_brix_list_node(tag, &view_));
     }
     ~hierarchy_level() { destroy_brix_list(brix_list_pop(&brix_hierarchy)); }
     hierarchy_level(const hierarchy_level&) = delete;
     hierarchy_level& operator=(const hierarchy_level&) = delete;
-};
+    const Rec* view() const { return &view_; }
 
-// Arrays whose path indexes with "[%d]" keep the index at run time, through a member of
-// the class named after the level.
-void rewrite_array_path(int32_t array_size, brix_hdl_path_tag* path, const char* name) {
-    if (is_array(array_size) && holds(path, "[%d]")) {
-        process_backdoor_hdl_path(path, name);
+  private:
+    void index_with_member() {
+        for (const std::string& text : texts_) {
+            if (text.find("%d") == std::string::npos) {
+                brix_error("Error: Array '%s' - '%%d' is mandatory in hdl_path(s) of array "
+                           "constructs.",
+                           view_.name);
+            }
+        }
+        for (size_t i = 0; i < texts_.size(); ++i) {
+            texts_[i].replace(texts_[i].find("%d"), 2, view_.name);
+            paths_[i].path = texts_[i].data();
+        }
     }
-}
+
+    Rec view_;
+    std::vector<std::string> texts_;
+    std::vector<brix_hdl_path_tag> paths_;
+};
 
 std::string joined(const std::string* prefix, const std::string& path) {
     return prefix != nullptr ? *prefix + "." + path : path;
@@ -578,12 +606,10 @@ void emit_backdoor_instantiation(const brix_bkdr_object& o) {
             ++indent;
             ++loops;
         } else if (l.tmp_info != nullptr) {
-            // An expanded element: its index stands between the X's after the saved name.
-            const char* digits = l.name + strlen(l.tmp_info->name) + 1;
-            const char* end = strchr(digits, 'X');
+            // An expanded element is attached by its array's name and its index.
             outer += plain;
-            attached += std::string(".") + l.tmp_info->name + "[" +
-                        std::string(digits, end != nullptr ? end : digits + strlen(digits)) + "]";
+            attached +=
+                std::string(".") + l.tmp_info->name + "[" + std::to_string(l.tmp_info->index) + "]";
         } else {
             outer += plain;
             attached += plain;
@@ -651,6 +677,7 @@ template <class Rec, class F> void expand_level(Rec* r, F& leaf) {
     r->array_size = -1;
     r->tmp_info = &info;
     for (int i = 0; i < info.array_size; ++i) {
+        info.index = i;
         std::string mark = "X";
         mark += std::to_string(i);
         mark += 'X';
@@ -699,9 +726,6 @@ void for_each_component_of_instance(const brix_list_tag* domains, const char* do
 
 void walk_regfile(const brix_regfile_tag* f, const bkdr_pass& pass) {
     hierarchy_level level(BRIX_REGFILE, f);
-    if (pass.writes_classes) {
-        rewrite_array_path(f->array_size, f->hdl_path, f->name);
-    }
     for (const brix_list_tag* n = f->type->registers; n != nullptr; n = n->next) {
         pass.reg(static_cast<const brix_register_tag*>(n->data));
     }
@@ -709,9 +733,6 @@ void walk_regfile(const brix_regfile_tag* f, const bkdr_pass& pass) {
 
 void walk_block(brix_block_tag* b, const bkdr_pass& pass) {
     hierarchy_level level(BRIX_BLOCK, b);
-    if (pass.writes_classes) {
-        rewrite_array_path(b->array_size, b->hdl_path, b->name);
-    }
     for_each_component_of_instance<brix_block_domain_tag>(
         b->type->domains, b->domain, [&](const brix_list_tag* c) {
             switch (c->tag) {
@@ -735,9 +756,6 @@ void walk_block(brix_block_tag* b, const bkdr_pass& pass) {
 
 void walk_system(brix_system_tag* s, const bkdr_pass& pass) {
     hierarchy_level level(BRIX_SYSTEM, s);
-    if (pass.writes_classes) {
-        rewrite_array_path(s->array_size, s->hdl_path, s->name);
-    }
     for_each_component_of_instance<brix_system_domain_tag>(
         s->type->domains, s->domain, [&](const brix_list_tag* c) {
             if (c->tag == BRIX_BLOCK) {
@@ -768,8 +786,7 @@ void emit_register_backdoor(const brix_register_tag* reg) {
         return;
     }
     hierarchy_level level(BRIX_REGISTER, reg);
-    rewrite_array_path(reg->array_size, reg->hdl_path, reg->name);
-    emit_backdoor_class(o);
+    emit_backdoor_class({level.view(), nullptr});
 }
 
 void emit_register_backdoor_instantiations(const brix_register_tag* reg) {
@@ -778,7 +795,7 @@ void emit_register_backdoor_instantiations(const brix_register_tag* reg) {
         return;
     }
     hierarchy_level level(BRIX_REGISTER, reg);
-    emit_backdoor_instantiation(o);
+    emit_backdoor_instantiation({level.view(), nullptr});
 }
 
 void emit_regfile_backdoor(const brix_regfile_tag* regfile) {
@@ -843,21 +860,6 @@ void emit_block_backdoor_instantiations(brix_block_tag* block) {
 
 void emit_system_backdoor_instantiations(brix_system_tag* system) {
     walk_system(system, instantiation_pass);
-}
-
-void process_backdoor_hdl_path(brix_hdl_path_tag* list, const char* name) {
-    for (brix_hdl_path_tag* p = list; p != nullptr; p = p->next) {
-        if (strstr(p->path, "%d") == nullptr) {
-            brix_error("Error: Array '%s' - '%%d' is mandatory in hdl_path(s) of array constructs.",
-                       name);
-        }
-    }
-    for (brix_hdl_path_tag* p = list; p != nullptr; p = p->next) {
-        std::string text = p->path;
-        text.replace(text.find("%d"), 2, name);
-        brix_free(p->path);
-        p->path = brix_strdup(text.c_str());
-    }
 }
 
 std::vector<brix_bkdr_dimension> backdoor_variable_dimensions(const brix_list_tag* hierarchy) {

@@ -18,11 +18,13 @@
 // An access is a read or a write; the two differ in a few texts only.
 enum class brix_bkdr_dir { read = 0, write = 1 };
 
-// What an array level held before the memory backdoor expanded it into its elements.
+// What an array level held before the memory backdoor expanded it into its elements, and
+// the element now being written.
 struct brix_tmp_info_for_mem_vhdl_bkdr {
     char* name;
     int32_t array_size;
     char* hdl_path;
+    int32_t index = 0;
 };
 
 // A register or a memory that gets a backdoor class.
@@ -101,12 +103,9 @@ void emit_memory_backdoor_instantiations_plain_or_mixed(const brix_memory_tag* m
 void emit_block_backdoor_instantiations(brix_block_tag* block);
 void emit_system_backdoor_instantiations(brix_system_tag* system);
 
-// Rewrites the first "%d" of every path of an array level to the level's name, so that
-// "ch[%d]" becomes "ch[chan]".
-void process_backdoor_hdl_path(brix_hdl_path_tag* list, const char* name);
 bool has_bkdr_array_ancestor(const brix_list_tag* hierarchy);
-// The array levels of a hierarchy indexed at run time, as process_backdoor_hdl_path leaves
-// them ("[<name>]" in their path), outermost first.
+// The array levels of a hierarchy indexed at run time, whose path in the hierarchy's view
+// names the level ("[<name>]"), outermost first.
 std::vector<brix_bkdr_dimension> backdoor_variable_dimensions(const brix_list_tag* hierarchy);
 bool fields_implemented_in_vhdl(const brix_register_tag* reg);
 // The path of an array level with the index of an expanded element back in brackets.

@@ -453,8 +453,8 @@ template <class Domain> void emit_domain_constraints(const brix_list_tag* domain
     emit_user_defined_constraint();
 }
 
-template <class Type> bool is_top_itself(const Type* type) {
-    return brix_gen_backdoor && is_named(type->name, brix_top) && type->scope_prefix == nullptr;
+template <class Type> bool is_top_itself(const Type* type, bool backdoor) {
+    return backdoor && is_named(type->name, brix_top) && type->scope_prefix == nullptr;
 }
 
 // One member for each instance name of a shared register or memory in a block; a later
@@ -686,7 +686,8 @@ void emit_block_vregister(const brix_block_type_tag* block, const brix_block_dom
     });
 }
 
-void emit_block_constructor(brix_block_type_tag* type, const brix_str2int_map& names) {
+void emit_block_constructor(brix_block_type_tag* type, const brix_str2int_map& names,
+                            bool backdoor) {
     emit_container_ctor_head<brix_block_domain_tag>(type);
     const std::string suffix = suffix_of(type);
     shared_members regs = shared_registers_of(type->name);
@@ -718,7 +719,7 @@ void emit_block_constructor(brix_block_type_tag* type, const brix_str2int_map& n
     });
     regs.clear();
     mems.clear();
-    if (is_top_itself(type)) {
+    if (is_top_itself(type, backdoor)) {
         brix_emit(L().backdoor_banner);
         for_each_component<brix_block_domain_tag>(type->domains, [&](const brix_block_domain_tag*,
                                                                      const brix_list_tag* c) {
@@ -852,7 +853,7 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
     walk.advance(static_cast<uint64_t>(c.array_size) * incr);
 }
 
-void emit_system_constructor(brix_system_type_tag* type) {
+void emit_system_constructor(brix_system_type_tag* type, bool backdoor) {
     emit_container_ctor_head<brix_system_domain_tag>(type);
     const std::string suffix = suffix_of(type);
     brix_str2str_map instantiated;
@@ -869,7 +870,7 @@ void emit_system_constructor(brix_system_type_tag* type) {
                               static_cast<long long>(walk.size));
     });
     free_str2str_map(instantiated, 1);
-    if (is_top_itself(type)) {
+    if (is_top_itself(type, backdoor)) {
         brix_emit(L().backdoor_banner);
         for_each_component<brix_system_domain_tag>(
             type->domains, [&](const brix_system_domain_tag*, const brix_list_tag* c) {
@@ -881,19 +882,6 @@ void emit_system_constructor(brix_system_type_tag* type) {
             });
     }
     emit_container_ctor_tail<brix_system_domain_tag>(type);
-}
-
-// Component classes are written with the backdoor flag cleared, so that only the top's
-// direct components and its own constructor see it.
-template <class F> void without_backdoor(F f) {
-    const int saved = brix_gen_backdoor;
-    brix_gen_backdoor = 0;
-    f();
-    brix_gen_backdoor = saved;
-}
-
-bool at_top_with_backdoor() {
-    return brix_gen_backdoor && brix_hierarchy == nullptr;
 }
 
 } // namespace
@@ -985,53 +973,45 @@ void emit_register(const brix_register_tag* reg) {
     brix_emit("\n\n");
 }
 
-void emit_block_components(brix_block_type_tag* type) {
+void emit_block_components(brix_block_type_tag* type, bool backdoor) {
     for_each_component<brix_block_domain_tag>(
         type->domains, [&](const brix_block_domain_tag* d, const brix_list_tag* c) {
             switch (c->tag) {
             case BRIX_REGISTER: {
                 const auto* r = static_cast<const brix_register_tag*>(c->data);
-                if (at_top_with_backdoor()) {
+                if (backdoor) {
                     emit_register_backdoor(r);
                 }
-                without_backdoor([&] {
-                    if (!already_emitted_register(r->type)) {
-                        emit_register(r);
-                    }
-                });
+                if (!already_emitted_register(r->type)) {
+                    emit_register(r);
+                }
                 return;
             }
             case BRIX_VREGISTER: {
                 const auto* v = static_cast<const brix_vregister_tag*>(c->data);
-                without_backdoor([&] {
-                    if (!in_map(all_vregisters, suffix_of(v->type))) {
-                        emit_vregister_class(v->type);
-                    }
-                });
+                if (!in_map(all_vregisters, suffix_of(v->type))) {
+                    emit_vregister_class(v->type);
+                }
                 return;
             }
             case BRIX_REGFILE: {
                 const auto* f = static_cast<const brix_regfile_tag*>(c->data);
-                if (at_top_with_backdoor()) {
+                if (backdoor) {
                     emit_regfile_backdoor(f);
                 }
-                without_backdoor([&] {
-                    if (!in_map(all_regfiles, suffix_of(f->type))) {
-                        emit_regfile_class(f->type, static_cast<uint64_t>(d->bytes));
-                    }
-                });
+                if (!in_map(all_regfiles, suffix_of(f->type))) {
+                    emit_regfile_class(f->type, static_cast<uint64_t>(d->bytes));
+                }
                 return;
             }
             case BRIX_MEMORY: {
                 const auto* m = static_cast<const brix_memory_tag*>(c->data);
-                if (at_top_with_backdoor()) {
+                if (backdoor) {
                     emit_memory_backdoor(m);
                 }
-                without_backdoor([&] {
-                    if (!in_map(all_memories, suffix_of(m->type))) {
-                        emit_memory_class(m->type);
-                    }
-                });
+                if (!in_map(all_memories, suffix_of(m->type))) {
+                    emit_memory_class(m->type);
+                }
                 return;
             }
             default:
@@ -1040,7 +1020,7 @@ void emit_block_components(brix_block_type_tag* type) {
         });
 }
 
-void emit_block_itself(brix_block_type_tag* type) {
+void emit_block_itself(brix_block_type_tag* type, bool backdoor) {
     brix_str2int_map names;
     initialize_str2int_map(names);
     const std::string suffix = suffix_of(type);
@@ -1056,7 +1036,7 @@ void emit_block_itself(brix_block_type_tag* type) {
         brix_emit(L().addr_map_member, suffix);
     }
     emit_domain_constraints<brix_block_domain_tag>(type->domains);
-    emit_block_constructor(type, names);
+    emit_block_constructor(type, names, backdoor);
     if (can_cvr_block_field_val(type)) {
         emit_block_field_value_sample_method(type);
     }
@@ -1066,38 +1046,34 @@ void emit_block_itself(brix_block_type_tag* type) {
     brix_emit("\n\n");
 }
 
-void emit_system_components(brix_system_type_tag* type) {
+void emit_system_components(brix_system_type_tag* type, bool backdoor) {
     for_each_component<brix_system_domain_tag>(
         type->domains, [&](const brix_system_domain_tag*, const brix_list_tag* c) {
             if (c->tag == BRIX_BLOCK) {
                 auto* b = static_cast<brix_block_tag*>(c->data);
-                if (at_top_with_backdoor()) {
+                if (backdoor) {
                     emit_block_backdoor(b);
                 }
-                without_backdoor([&] {
-                    if (!in_map(all_blocks, suffix_of(b->type))) {
-                        emit_block_components(b->type);
-                        emit_block_itself(b->type);
-                    }
-                });
+                if (!in_map(all_blocks, suffix_of(b->type))) {
+                    emit_block_components(b->type, false);
+                    emit_block_itself(b->type, false);
+                }
             } else if (c->tag == BRIX_SYSTEM) {
                 auto* s = static_cast<brix_system_tag*>(c->data);
-                if (at_top_with_backdoor()) {
+                if (backdoor) {
                     emit_system_backdoor(s);
                 }
-                without_backdoor([&] {
-                    if (!in_map(all_systems, suffix_of(s->type))) {
-                        emit_system_components(s->type);
-                        emit_system_itself(s->type);
-                    }
-                });
+                if (!in_map(all_systems, suffix_of(s->type))) {
+                    emit_system_components(s->type, false);
+                    emit_system_itself(s->type, false);
+                }
             } else {
                 brix_error("Error: Invalid System Component found.\n");
             }
         });
 }
 
-void emit_system_itself(brix_system_type_tag* type) {
+void emit_system_itself(brix_system_type_tag* type, bool backdoor) {
     const std::string suffix = suffix_of(type);
     brix_emit(L().sys_class_head, suffix);
     brix_str2str_map names;
@@ -1129,7 +1105,7 @@ void emit_system_itself(brix_system_type_tag* type) {
     free_str2str_map(names, 1);
     brix_emit("\n");
     emit_domain_constraints<brix_system_domain_tag>(type->domains);
-    emit_system_constructor(type);
+    emit_system_constructor(type, backdoor);
     brix_emit(L().sys_class_tail, suffix);
     note_emitted(all_systems, suffix);
     brix_emit("\n\n");
@@ -1164,14 +1140,15 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     } else {
         brix_emit(lang.file_head, uc_top, uc_top);
     }
+    const bool backdoor = brix_gen_backdoor != 0;
     if (sym->kind == BRIX_BLOCK_TYPE) {
         auto* type = static_cast<brix_block_type_tag*>(sym->data);
-        emit_block_components(type);
-        emit_block_itself(type);
+        emit_block_components(type, backdoor);
+        emit_block_itself(type, backdoor);
     } else {
         auto* type = static_cast<brix_system_type_tag*>(sym->data);
-        emit_system_components(type);
-        emit_system_itself(type);
+        emit_system_components(type, backdoor);
+        emit_system_itself(type, backdoor);
     }
     brix_emit(lang.file_tail);
     if (brix_gen_backdoor) {

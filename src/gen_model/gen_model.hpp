@@ -161,7 +161,9 @@ std::string brix_model_file_name(const char* top, const brix_gen_templates& lang
 int already_emitted_register(const brix_register_type_tag* type);
 void emit_register(const brix_register_tag* reg);
 void emit_constraints(const brix_constraint_tag* list);
-void emit_block_components(brix_block_type_tag* type);
-void emit_block_itself(brix_block_type_tag* type);
-void emit_system_components(brix_system_type_tag* type);
-void emit_system_itself(brix_system_type_tag* type);
+// With `backdoor`, which only the top's own call passes, the components' backdoor classes
+// are written ahead of their classes and attached in the type's constructor.
+void emit_block_components(brix_block_type_tag* type, bool backdoor);
+void emit_block_itself(brix_block_type_tag* type, bool backdoor);
+void emit_system_components(brix_system_type_tag* type, bool backdoor);
+void emit_system_itself(brix_system_type_tag* type, bool backdoor);

@@ -9,18 +9,19 @@
 
 #include "driver/options.hpp"
 #include "driver/maps.hpp"
+#include "gen_model/gen_support.hpp"
 #include "parser/model.hpp"
 #include "semantic/model_copy.hpp"
 
 namespace {
 
 FILE* kpl_fp = nullptr;
-const char* top = nullptr;
-int32_t strlen_top = 0;
+const char* plan_top = nullptr;
 // The types whose plan has been written, by type key.
-brix_str2int_map all_registers, all_regfiles, all_blocks, all_systems;
+brix_str2int_map planned_registers, planned_regfiles, planned_blocks, planned_systems;
 
-brix_str2int_map* const plan_maps[] = {&all_registers, &all_regfiles, &all_blocks, &all_systems};
+brix_str2int_map* const plan_maps[] = {&planned_registers, &planned_regfiles, &planned_blocks,
+                                       &planned_systems};
 
 // One line of the plan at `level` levels of four blanks.
 void put(int level, const std::string& text) {
@@ -31,8 +32,7 @@ void put(int level, const std::string& text) {
 }
 
 template <class Type> std::string type_key(const Type* t) {
-    return t->scope_prefix != nullptr ? std::string(t->scope_prefix) + "_" + t->name
-                                      : std::string(t->name);
+    return brix_class_suffix(t->scope_prefix, t->name);
 }
 
 bool emitted(const brix_str2int_map& map, const std::string& key) {
@@ -44,7 +44,7 @@ void note(brix_str2int_map& map, const std::string& key) {
 }
 
 template <class Type> bool is_top(const Type* t) {
-    return t->scope_prefix == nullptr && strcmp(t->name, top) == 0;
+    return t->scope_prefix == nullptr && strcmp(t->name, plan_top) == 0;
 }
 
 const char* attribute_line = "attribute string path = \"\";\n\n";
@@ -92,7 +92,7 @@ std::string path_text(const std::string& prefix, const char* name, int k,
 }
 
 bool already_emitted_register(const brix_register_type_tag* type) {
-    return emitted(all_registers, type_key(type));
+    return emitted(planned_registers, type_key(type));
 }
 
 void emit_register(const brix_register_type_tag* t, int level) {
@@ -110,7 +110,7 @@ void emit_register(const brix_register_type_tag* t, int level) {
         put(level + 2, "endmeasure\n");
         put(level + 1, "endfeature\n");
     }
-    plan_tail(level, all_registers, key);
+    plan_tail(level, planned_registers, key);
 }
 
 void emit_regfile(const brix_regfile_type_tag* t, int level) {
@@ -127,7 +127,7 @@ void emit_regfile(const brix_regfile_type_tag* t, int level) {
         emit_instance_features(level + 1, "reg_", r->name, r->array_size, type_key(r->type),
                                [&](int k) { return path_text("${path}.", r->name, k, "\");\n"); });
     }
-    plan_tail(level, all_regfiles, key);
+    plan_tail(level, planned_regfiles, key);
 }
 
 // The plans of a block's registers and regfiles; only register bits have plans there.
@@ -145,7 +145,7 @@ void emit_block_components(const brix_block_type_tag* type, int level) {
                 }
             } else if (c->tag == BRIX_REGFILE) {
                 const auto* f = static_cast<const brix_regfile_tag*>(c->data);
-                if (!emitted(all_regfiles, type_key(f->type))) {
+                if (!emitted(planned_regfiles, type_key(f->type))) {
                     emit_regfile(f->type, level);
                 }
             }
@@ -204,7 +204,7 @@ void emit_block_itself(const brix_block_type_tag* type, int level) {
     if (brix_cvr_field_vals == 1) {
         emit_measure_feature(j, "field_values", "::field_values", type);
     }
-    plan_tail(level, all_blocks, key);
+    plan_tail(level, planned_blocks, key);
 }
 
 void emit_system(const brix_system_type_tag* type, int level) {
@@ -213,13 +213,13 @@ void emit_system(const brix_system_type_tag* type, int level) {
         for (const brix_list_tag* c = dom->components; c != nullptr; c = c->next) {
             if (c->tag == BRIX_BLOCK) {
                 const auto* b = static_cast<const brix_block_tag*>(c->data);
-                if (!emitted(all_blocks, type_key(b->type))) {
+                if (!emitted(planned_blocks, type_key(b->type))) {
                     emit_block_components(b->type, level);
                     emit_block_itself(b->type, level);
                 }
             } else if (c->tag == BRIX_SYSTEM) {
                 const auto* s = static_cast<const brix_system_tag*>(c->data);
-                if (!emitted(all_systems, type_key(s->type))) {
+                if (!emitted(planned_systems, type_key(s->type))) {
                     emit_system(s->type, level);
                 }
             }
@@ -253,14 +253,13 @@ void emit_system(const brix_system_type_tag* type, int level) {
         }
     }
     free_str2int_map(seen);
-    plan_tail(level, all_systems, key);
+    plan_tail(level, planned_systems, key);
 }
 
 } // namespace
 
 void emit_kpl_qvtp_model(const char* top_name) {
-    top = top_name;
-    strlen_top = static_cast<int32_t>(strlen(top_name));
+    plan_top = top_name;
     const brix_symrec* sym = lookup_design_top(top_name);
     const std::string file_name = "qvtp_" + std::string(top_name) + ".kpl";
     kpl_fp = fopen(file_name.c_str(), "w");

@@ -260,7 +260,6 @@ struct brix_block_type_tag {
     brix_attribute* attributes;
 };
 
-// The same size as a block type, so that one copy branch serves both.
 struct brix_system_type_tag {
     char* name;
     brix_list_tag* domains;

@@ -7,6 +7,10 @@
 # input files, and `expected/` with `stdout`, `stderr`, `status` and, under `files/`,
 # every file the run must leave in its working folder. An `expected/keeps_tmp` marker
 # says that the run leaves its temporary pure description behind.
+#
+# With BRIX_UPDATE_GOLDEN=1 in the environment the case's `expected/` is rewritten from
+# what the run gave instead (for an intended change of output; read every change against
+# what the output must be before committing it).
 set -u
 bin=$(readlink -f "$1")
 case_dir=$(readlink -f "$2")
@@ -27,6 +31,18 @@ touch "$work/started"
 pid=$!
 wait $pid
 status=$?
+
+if [ "${BRIX_UPDATE_GOLDEN:-0}" = 1 ]; then
+    rm -rf "$exp"
+    mkdir -p "$exp/files"
+    cp "$work/stdout" "$work/stderr" "$exp/"
+    echo "$status" >"$exp/status"
+    (cd "$work/run" && find . -type f | sort) | comm -13 "$work/inputs" - |
+        (cd "$work/run" && xargs -r -d '\n' cp --parents -t "$exp/files")
+    rmdir "$exp/files" 2>/dev/null
+    find /tmp -maxdepth 1 -newer "$work/started" \( -name "qvt_*_${pid}_pure_brix" \
+        -o -name "qvt_${pid}_pure_brix" \) | grep -q . && touch "$exp/keeps_tmp"
+fi
 
 fail=0
 compare() { # expected actual label

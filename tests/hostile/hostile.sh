@@ -88,18 +88,6 @@ end_case() {
     rm -rf "$work"
 }
 
-new_case empty_file
-: >e.brix
-run -l sv -t top e.brix
-expect_status 1
-expect_stderr "
-syntax error, unexpected \$end (BRIX File:  Line: 0)
-"
-expect_banner_only
-expect_files "e.brix "
-expect_tmp 0
-end_case
-
 new_case directory_as_description
 mkdir d.brix
 run -l sv -t top d.brix
@@ -107,15 +95,6 @@ expect_status 1
 expect_stderr "Error: Failed to read entire file d.brix ... Only -1 bytes read.
 "
 expect_files "d.brix "
-expect_tmp 0
-end_case
-
-new_case missing_file
-run -l sv -t top nope.brix
-expect_status 1
-expect_stderr "Error: Failed to open file nope.brix ... exiting!
-"
-expect_files ""
 expect_tmp 0
 end_case
 
@@ -212,16 +191,6 @@ expect_files "brx_top.sv inc inc/part.brix top.brix "
 expect_tmp 0
 end_case
 
-new_case output_cannot_be_created
-printf '%s' "$valid" >top.brix
-run -q -l sv -t top -o "$work/no/such/folder/m" top.brix
-expect_status 1
-expect_stderr "Error: Failed to open output file '$work/no/such/folder/m.sv' for writing...
-"
-expect_files "top.brix "
-expect_tmp 0
-end_case
-
 # A file or link planted under the temporary name is neither followed, truncated nor
 # removed: the run refuses to start.
 for planted in file link; do
@@ -255,17 +224,6 @@ for planted in file link; do
     expect_files "top.brix victim "
     end_case
 done
-
-# Tcl's exit is the script's own: it ends the process with its status, leaving the
-# temporary file.
-new_case tcl_exit
-printf '%sexit 3\n' "$valid" >top.brix
-run -q -l sv -t top top.brix
-expect_status 3
-expect_stderr ""
-expect_files "top.brix "
-expect_tmp 1
-end_case
 
 if [ "$fails" -ne 0 ]; then
     echo "$fails hostile-input checks failed"

@@ -55,8 +55,7 @@ golden)
         fi
         lint "$f" "$rel"
     done < <(find "$root"/tests/golden*/gen_sv_* "$root"/tests/golden*/cov_* \
-        "$root"/tests/golden*/plan_* "$root"/tests/golden*/review_gen_* \
-        -path '*/expected/files/*.sv' | sort)
+        "$root"/tests/golden*/plan_* -path '*/expected/files/*.sv' | sort)
     ;;
 examples)
     # Each example without coverage and with the coverage models together and one by one.

@@ -36,17 +36,26 @@ template <class T> T* record(void (*init)(T*)) {
 
 using node = std::pair<int, void*>;
 
-inline brix_list_tag* list(std::initializer_list<node> items) {
+template <class T> brix_list_tag* list_of(int tag, std::initializer_list<T*> items) {
     brix_list_tag* head = nullptr;
     brix_list_tag* tail = nullptr;
+    for (T* item : items) {
+        brix_list_tag* n = create_brix_list_node(tag, item);
+        (head == nullptr ? head : tail->next) = n;
+        tail = n;
+    }
+    return head;
+}
+
+// Components of their own kinds, as `reg`, `mem` and the others give them.
+inline brix_list_tag* list(std::initializer_list<node> items) {
+    brix_list_tag* head = nullptr;
     for (const node& n : items) {
-        brix_list_tag* created = create_brix_list_node(n.first, n.second);
         if (head == nullptr) {
-            head = created;
+            head = create_brix_list_node(n.first, n.second);
         } else {
-            tail->next = created;
+            add_to_brix_list_end(head, n.first, n.second);
         }
-        tail = created;
     }
     return head;
 }
@@ -73,17 +82,6 @@ inline brix_constraint_tag* constraint(const char* name, const char* body,
     c->body = s(body);
     c->next = next;
     return c;
-}
-
-template <class T> brix_list_tag* list_of(int tag, std::initializer_list<T*> items) {
-    brix_list_tag* head = nullptr;
-    brix_list_tag* tail = nullptr;
-    for (T* item : items) {
-        brix_list_tag* n = create_brix_list_node(tag, item);
-        (head == nullptr ? head : tail->next) = n;
-        tail = n;
-    }
-    return head;
 }
 
 inline brix_list_tag* fields(std::initializer_list<brix_field_tag*> fs) {

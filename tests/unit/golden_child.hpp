@@ -9,8 +9,11 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -25,6 +28,55 @@ inline std::string slurp(const fs::path& path) {
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
+}
+
+// The files of a folder, none when it is absent; with `extension`, only those.
+inline std::set<std::string> files_in(const fs::path& dir, const std::string& extension = "") {
+    std::set<std::string> names;
+    if (fs::exists(dir)) {
+        for (const auto& f : fs::directory_iterator(dir)) {
+            if (extension.empty() || f.path().extension() == extension) {
+                names.insert(f.path().filename().string());
+            }
+        }
+    }
+    return names;
+}
+
+// With BRIX_UPDATE_GOLDEN=1, as for the golden cases of the program, a runner writes what
+// the run gave as the expectation instead of comparing.
+inline bool updating_golden() {
+    const char* v = getenv("BRIX_UPDATE_GOLDEN");
+    return v != nullptr && strcmp(v, "1") == 0;
+}
+
+inline void expect_golden(const std::string& actual, const fs::path& expected) {
+    if (updating_golden()) {
+        std::ofstream(expected, std::ios::binary) << actual;
+    } else {
+        EXPECT_EQ(actual, slurp(expected)) << expected;
+    }
+}
+
+// The streams and the status of a run, then the files `made` in `work` against the
+// case's `expected/files/`.
+inline void expect_golden_run(const child_result& run, const fs::path& exp, const fs::path& work,
+                              const std::set<std::string>& made) {
+    expect_golden(run.out, exp / "stdout");
+    expect_golden(run.err, exp / "stderr");
+    expect_golden(std::to_string(run.status) + "\n", exp / "status");
+    if (updating_golden()) {
+        fs::remove_all(exp / "files");
+        for (const std::string& f : made) {
+            fs::create_directories(exp / "files");
+            fs::copy(work / f, exp / "files" / f);
+        }
+        return;
+    }
+    EXPECT_EQ(made, files_in(exp / "files"));
+    for (const std::string& f : made) {
+        EXPECT_EQ(slurp(work / f), slurp(exp / "files" / f)) << f;
+    }
 }
 
 // The case folders <root>/<group>/<case>, in a stable order.

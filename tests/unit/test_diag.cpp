@@ -153,4 +153,14 @@ TEST(Numbers, PowAndCeil) {
     EXPECT_EQ(get_ceil(17, 8), 3u);
 }
 
+TEST(EmitDeathTest, LengthDirectiveCutOffByTheEndOfTheFormat) {
+    brx_model_fp = tmpfile();
+    EXPECT_EXIT(brix_emit("x %l"), testing::ExitedWithCode(1),
+                "^Error: Unsupported format '%lc' used in with 'brix_emit'.\n\n$");
+    EXPECT_EXIT(brix_emit("x %ll"), testing::ExitedWithCode(1),
+                "^Error: Unsupported format '%llc' used in with 'brix_emit'.\n\n$");
+    fclose(brx_model_fp);
+    brx_model_fp = nullptr;
+}
+
 } // namespace

@@ -2,10 +2,13 @@
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
 #include "expand/expand.hpp"
+#include "expand_harness.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fcntl.h>
+#include <sys/wait.h>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -77,6 +80,37 @@ TEST(DriverDeathTest, PlantedTemporaryNameIsLeftAlone) {
     EXPECT_EQ(slurp(target), "keep");
     unlink(link.c_str());
     unlink(target.c_str());
+}
+
+// The description deletes its own pure file: the run cannot read it back and says so,
+// without the help text.
+TEST(Driver, VanishedPureFileCannotBeOpened) {
+    expand_test::scratch_dir dir;
+    dir.write("top.brix", "file delete {*}[glob /tmp/qvt_*_[pid]_pure_brix]\n");
+    const std::string err = (dir.path() / "stderr").string();
+    fflush(nullptr);
+    const pid_t pid = fork();
+    if (pid == 0) {
+        const int fd = open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        dup2(fd, 2);
+        dup2(open("/dev/null", O_WRONLY), 1);
+        if (chdir(dir.path().c_str()) != 0) {
+            _exit(99);
+        }
+        execl(BRIX_BINARY, "brixgen", "-l", "sv", "-t", "b", "top.brix", nullptr);
+        _exit(98);
+    }
+    int wstatus = 0;
+    waitpid(pid, &wstatus, 0);
+    ASSERT_TRUE(WIFEXITED(wstatus));
+    EXPECT_EQ(WEXITSTATUS(wstatus), 1);
+    const std::string text = expand_test::slurp(err);
+    const std::string head = "Error: Failed to open Pure BRIX file '/tmp/qvt_";
+    const std::string tail =
+        "_" + std::to_string(pid) + "_pure_brix' for reading...please check.\n";
+    ASSERT_EQ(text.size(), head.size() + 14 + tail.size()) << text;
+    EXPECT_EQ(text.substr(0, head.size()), head);
+    EXPECT_EQ(text.substr(head.size() + 14), tail);
 }
 
 } // namespace

@@ -2,13 +2,16 @@
 // results and failures.
 #include "expand_harness.hpp"
 
+#include <cstring>
 #include <vector>
 
 namespace {
 
 using expand_test::expand_in;
+using expand_test::expansion;
 using expand_test::hash;
 using expand_test::scratch_dir;
+using expand_test::slurp;
 
 // "line file" of every hash line, in order.
 std::vector<std::string> hash_lines(const std::string& pure) {
@@ -290,6 +293,125 @@ TEST(ExpandRun, ErrorLineSumsUpThroughNestedBodies) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err.rfind("\ninvalid command name \"nosuch\"\n    while executing\n", 0), 0u);
     EXPECT_TRUE(run.err.ends_with("}\" (file \"top.brix\" line 7)\n")) << run.err;
+}
+
+// Expands `top` with the working folder `work` and the -I list `inc_dirs` taken as it
+// stands, so that the entries "." and ".." reach the search.
+expansion expand_from(const std::filesystem::path& work, const std::string& top,
+                      const std::string& inc_dirs) {
+    const std::filesystem::path pure = work / "pure";
+    const brix_test::child_result child = brix_test::run_in_child([&] {
+        if (chdir(work.c_str()) != 0) {
+            _exit(99);
+        }
+        snprintf(pure_brix_file, sizeof pure_brix_file, "%s", pure.c_str());
+        brix_inc_dirs = strdup(inc_dirs.c_str());
+        Tcl_FindExecutable(nullptr);
+        expand_tcl_constructs(top.c_str(), pure.c_str());
+    });
+    expansion run;
+    run.status = child.status;
+    run.pure = slurp(pure);
+    run.err = child.err;
+    return run;
+}
+
+TEST(ExpandSource, DotAndDotDotStandForTheWorkingFolderAndItsParent) {
+    scratch_dir dir;
+    const std::filesystem::path root = std::filesystem::canonical(dir.path());
+    dir.write("work/sub/top.brix", "source x.brix\nsource y.brix\n");
+    // Found through "." and "..": the copies beside the top file come last and lose.
+    dir.write("work/x.brix", "bytes 1\n");
+    dir.write("work/sub/x.brix", "bytes 9\n");
+    dir.write("y.brix", "\nbytes 2\n");
+    dir.write("work/sub/y.brix", "bytes 8\n");
+    // Empty entries are skipped; a missing folder is passed over.
+    const expansion run = expand_from(root / "work", "sub/top.brix", "::nothere:.:..:");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.pure, hash(1, (root / "work").string() + "/x.brix") + "bytes 1 \n" +
+                            hash(2, root.string() + "/y.brix") + "bytes 2 \n");
+}
+
+TEST(ExpandSource, NoEntryHoldsTheFileSoTheTopFoldersFailureIsFinal) {
+    scratch_dir dir;
+    dir.write("work/top.brix", "bytes 1\nsource gone.brix\n");
+    const expansion run =
+        expand_from(std::filesystem::canonical(dir.path()) / "work", "top.brix", ".:..");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "Error: Failed to open file gone.brix ... exiting!\n");
+    EXPECT_EQ(run.pure, ""); // removed on the way out
+}
+
+// A caught failure keeps both its summed line and the raised nesting: the next error
+// adds to the old sum, and the next declaration is indented by the bodies left open.
+// The failing word leaves what was written before it.
+TEST(ExpandRun, CaughtErrorLeavesLineSumAndLevelRaised) {
+    const std::string caught = "catch {\n"
+                               "  block b {\n"
+                               "    register r {\n"
+                               "      bytes {$nope}\n"
+                               "    }\n"
+                               "  }\n"
+                               "}\n"
+                               "bytes 1\n";
+    scratch_dir dir;
+    dir.write("ok.brix", caught);
+    EXPECT_EQ(expand_test::expand_in(dir, "ok.brix").pure,
+              hash(2, "ok.brix") + "block b {\n" + hash(3, "ok.brix") + "\tregister r {\n" +
+                  hash(4, "ok.brix") + "\t\tbytes " + hash(8, "ok.brix") + "\t\tbytes 1 \n");
+
+    dir.write("top.brix", caught + "nosuch\n");
+    const expansion run = expand_test::expand_in(dir, "top.brix");
+    EXPECT_EQ(run.status, 1);
+    // The caught error summed 1 (the puts), then 2 and 3 through the two bodies: 3 + 9 - 1.
+    EXPECT_EQ(run.err, "\ninvalid command name \"nosuch\"\n    while executing\n\"nosuch\" "
+                       "(file \"top.brix\" line 11)\n");
+}
+
+// A printed result stays the result: `source` hands on its file's last result, which is
+// printed once for the file and once more where `source` is the last command.
+TEST(ExpandRun, SourceKeepsTheResultOfItsFile) {
+    scratch_dir dir;
+    dir.write("inc.brix", "bytes 1\nset q 3\n");
+    dir.write("top.brix", "set v [source inc.brix]\nbytes $v\nsource inc.brix\n");
+    const expansion run = expand_test::expand_in(dir, "top.brix");
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.pure, hash(1, "inc.brix") + "bytes 1 \n" + hash(2) + "bytes 3 \n" +
+                            hash(1, "inc.brix") + "bytes 1 \n");
+    EXPECT_EQ(run.out, "333" + std::filesystem::current_path().string() + "\n");
+}
+
+// Tcl's parser recurses for each nested "[" without a limit of its own: beyond a depth
+// that no description needs, the file is refused before Tcl sees it.
+TEST(ExpandRun, BracketsNestedBeyondTheLimitAreRefused) {
+    const auto nested = [](int depth) {
+        return "bytes 1\nset x {" + std::string(depth, '[') + std::string(depth, ']') + "}\n";
+    };
+    scratch_dir dir;
+    dir.write("top.brix", nested(2000) + "bytes 2\n");
+    const expansion ok = expand_test::expand_in(dir, "top.brix");
+    EXPECT_EQ(ok.status, 0) << ok.err;
+    EXPECT_EQ(ok.pure, hash(1) + "bytes 1 \n" + hash(3) + "bytes 2 \n");
+
+    // An escaped bracket opens nothing; one behind an escaped backslash does.
+    std::string escaped;
+    std::string behind_escape;
+    for (int i = 0; i < 2001; ++i) {
+        escaped += "\\[";
+        behind_escape += "\\\\[";
+    }
+    dir.write("top.brix", "set y \"" + escaped + "\"\n");
+    EXPECT_EQ(expand_test::expand_in(dir, "top.brix").status, 0);
+    dir.write("top.brix", "set y {" + behind_escape + "}\n");
+    EXPECT_EQ(expand_test::expand_in(dir, "top.brix").err,
+              "Error: Brackets nested too deeply in file top.brix at line 1 ... exiting!\n\n");
+
+    dir.write("top.brix", nested(2001));
+    const expansion refused = expand_test::expand_in(dir, "top.brix");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, "Error: Brackets nested too deeply in file top.brix at line 2 ... "
+                           "exiting!\n\n");
+    EXPECT_EQ(refused.pure, "");
 }
 
 } // namespace

@@ -8,25 +8,10 @@
 #include "gen_model/gen_model.hpp"
 
 #include <cstring>
-#include <set>
 
 namespace {
 
 namespace fs = std::filesystem;
-using brix_test::slurp;
-
-std::set<std::string> headers_in(const fs::path& dir) {
-    std::set<std::string> names;
-    if (fs::exists(dir)) {
-        for (const auto& f : fs::directory_iterator(dir)) {
-            if (f.path().extension() == ".h") {
-                names.insert(f.path().filename().string());
-            }
-        }
-    }
-    return names;
-}
-
 class CInterfaceGolden : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(CInterfaceGolden, HeaderAndMessages) {
@@ -44,14 +29,7 @@ TEST_P(CInterfaceGolden, HeaderAndMessages) {
         }
     });
 
-    EXPECT_EQ(run.out, slurp(exp / "stdout"));
-    EXPECT_EQ(run.err, slurp(exp / "stderr"));
-    EXPECT_EQ(std::to_string(run.status) + "\n", slurp(exp / "status"));
-    const std::set<std::string> want = headers_in(exp / "files");
-    EXPECT_EQ(headers_in(work), want);
-    for (const std::string& h : want) {
-        EXPECT_EQ(slurp(work / h), slurp(exp / "files" / h)) << h;
-    }
+    brix_test::expect_golden_run(run, exp, work, brix_test::files_in(work, ".h"));
     fs::remove_all(work);
 }
 

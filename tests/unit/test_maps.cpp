@@ -173,4 +173,32 @@ TEST(Lists, ReverseHdlPathList) {
     EXPECT_EQ(r->next->next->next, nullptr);
 }
 
+TEST(Maps, FreeModesLeaveWhatTheyDoNotOwn) {
+    char key_a[] = "a";
+    char key_b[] = "b";
+    brix_str2str_map strs;
+    add_str2str_map_entry(strs, key_a, strdup("1"));
+    add_str2str_map_entry(strs, key_b, nullptr);
+    free_str2str_map(strs, 0); // values and nodes only: the keys on the stack stay untouched
+    EXPECT_EQ(get_str2str_map_value(strs, "a"), nullptr);
+
+    char* value = strdup("kept");
+    add_str2str_map_entry(strs, key_a, value);
+    free_str2str_map(strs, 2); // nodes only
+    EXPECT_STREQ(value, "kept");
+    free(value);
+
+    int target = 0;
+    brix_str2voidptr_map ptrs;
+    add_str2voidptr_map_entry(ptrs, key_a, &target);
+    free_str2voidptr_map(ptrs, 0);
+    for (auto* b : ptrs.buckets) {
+        EXPECT_EQ(b, nullptr);
+    }
+    // After a free the same key may be added again.
+    add_str2voidptr_map_entry(ptrs, key_a, &target);
+    EXPECT_EQ(get_str2voidptr_map_value(ptrs, "a"), &target);
+    free_str2voidptr_map(ptrs, 0);
+}
+
 } // namespace

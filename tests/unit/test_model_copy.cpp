@@ -154,13 +154,6 @@ TEST(TopLookup, FindsOneBlockOrSystemAndRefusesAmbiguity) {
     r = ambiguous([] { all_block_types = block_named("x", block_named("x", nullptr)); });
     EXPECT_EQ(r.err, "Error: Ambiguious 'topname' specified. Two blocks with same (x) topname "
                      "found!\n\n");
-    r = ambiguous([] {
-        all_block_types = block_named("x", nullptr);
-        all_system_types = system_named("x", nullptr);
-    });
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "Error: Ambiguious 'topname' specified. At least, one block and one system "
-                     "with same (x) topname found!\n\n");
 }
 
 // A system of two domains, each holding one instance of block type `b` named `x`.
@@ -220,35 +213,6 @@ TEST(SystemConsistency, PathsOfMultiDomainInstancesAgreeForward) {
     EXPECT_EQ(r.status, 1);
     EXPECT_EQ(r.err, "Error: System 'top' - Inconsistent hdl_path specification found among "
                      "multiple domain instantiations of block 'x'.\n\n");
-}
-
-TEST(ModelDefaults, RecordsStartAsDescribed) {
-    auto* field_type = record<brix_field_type_tag>();
-    initialize_field_type_defaults(field_type);
-    EXPECT_EQ(field_type->bits, 1u);
-    EXPECT_STREQ(field_type->access, "rw");
-    auto* mem = record<brix_memory_type_tag>();
-    initialize_memory_type_defaults(mem);
-    EXPECT_STREQ(mem->noise, "ro");
-    EXPECT_STREQ(mem->access, "rw");
-    EXPECT_EQ(mem->bits, 0u);
-    EXPECT_EQ(mem->is_shared, -1);
-    auto* bin = record<brix_cvr_bin>();
-    initialize_cvr_bin(bin);
-    EXPECT_EQ(bin->num_bins, -1);
-    // A spec keeps whatever stands in its high bits.
-    auto* spec = record<brix_cvr_spec_tag>();
-    std::memset(spec, 0xA4, sizeof *spec);
-    initialize_cvr_spec(spec);
-    EXPECT_EQ(spec->addr_map, 3u);
-    EXPECT_EQ(spec->field_vals, 3u);
-    EXPECT_NE(spec->unused_bits, 0u);
-    testing::internal::CaptureStderr();
-    initialize_cvr_bin_value(nullptr);
-    initialize_enum_type(nullptr);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "initialize_cvr_bin_val(...) - NULL parameter received.\n"
-              "initialize_enum_type(...) - NULL parameter received.\n");
 }
 
 TEST(Scopes, HashBucketsAndLookups) {

@@ -327,4 +327,53 @@ TEST(ParserModel, TooDeepAPathOverflowsTheParserStack) {
     EXPECT_EQ(r.err, "\nparser stack overflow (BRIX File:  Line: 0)\n");
 }
 
+std::vector<std::string> constraint_names(const brix_constraint_tag* c) {
+    std::vector<std::string> names;
+    for (; c != nullptr; c = c->next) {
+        names.push_back(c->name);
+    }
+    return names;
+}
+
+TEST(ParserModel, InterleavedConstraintListsKeepSourceOrder) {
+    // The register's list grows between the lists of its fields, and a second register
+    // starts while the first one's list is long.
+    parse_pure("register r { constraint a { } field f { constraint f1 { } constraint f2 { } } "
+               "constraint b { } field g { constraint g1 { } } constraint c { } }\n"
+               "register q { constraint q1 { } field h { constraint h1 { } } constraint q2 { } }\n"
+               "block bb { domain d1 { bytes 4 constraint x1 { } "
+               "register i @0 { constraint i1 { } field k } constraint x2 { } } "
+               "domain d2 { bytes 4 constraint y1 { } register j @0 { field k } "
+               "constraint y2 { } } }");
+    const auto* r = global<brix_register_type_tag>("r", BRIX_REGISTER_TYPE);
+    EXPECT_EQ(constraint_names(r->constraints), (std::vector<std::string>{"a", "b", "c"}));
+    const auto* f = static_cast<brix_field_tag*>(r->fields->data);
+    const auto* g = static_cast<brix_field_tag*>(r->fields->next->data);
+    EXPECT_EQ(constraint_names(f->type->constraints), (std::vector<std::string>{"f1", "f2"}));
+    EXPECT_EQ(constraint_names(g->type->constraints), (std::vector<std::string>{"g1"}));
+    const auto* q = global<brix_register_type_tag>("q", BRIX_REGISTER_TYPE);
+    EXPECT_EQ(constraint_names(q->constraints), (std::vector<std::string>{"q1", "q2"}));
+    const auto* bb = global<brix_block_type_tag>("bb", BRIX_BLOCK_TYPE);
+    const auto* d1 = static_cast<brix_block_domain_tag*>(bb->domains->data);
+    const auto* d2 = static_cast<brix_block_domain_tag*>(bb->domains->next->data);
+    EXPECT_EQ(constraint_names(d1->constraints), (std::vector<std::string>{"x1", "x2"}));
+    EXPECT_EQ(constraint_names(d2->constraints), (std::vector<std::string>{"y1", "y2"}));
+    const auto* i = static_cast<brix_register_tag*>(d1->components->data);
+    EXPECT_EQ(constraint_names(i->type->constraints), (std::vector<std::string>{"i1"}));
+}
+
+TEST(Scopes, HashOfVeryLongNamesWrapsLikeA32BitWord) {
+    // 300000 times 122 squared passes 2^32; the sum keeps its low 8 bits (128), 128 % 109.
+    const child_result hashes = run_in_child([] {
+        std::printf("%u %u", brix_symbol_hash(std::string(300000, 'z').c_str()),
+                    brix_symbol_hash(std::string(200000, 'z').c_str()));
+    });
+    EXPECT_EQ(hashes.out, "19 0");
+    EXPECT_EQ(hashes.err, "");
+    const std::string name(300000, 'z');
+    const child_result r = parse_in_child("field " + name + " { bits 2 }");
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.err, "");
+}
+
 } // namespace

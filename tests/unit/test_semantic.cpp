@@ -255,30 +255,6 @@ TEST(SemanticCoverage, CoverageExpressionForAllEightCombinations) {
     EXPECT_STREQ(get_cvr_expr(nullptr), "qvt_brx::NO_COVERAGE");
 }
 
-TEST(SemanticTop, MissingAndAmbiguousTops) {
-    const char* text = "register r { field a } block b { bytes 1 register r } "
-                       "system s { bytes 1 block b }";
-    EXPECT_EQ(run_in_child([&] { parse_and_check(text, "r"); }).err,
-              "Error: The specified top 'r' doesn't exist.\n");
-    EXPECT_EQ(run_in_child([&] { parse_and_check(text, "s"); }).status, 0);
-    const child_result inline_twin = run_in_child([] {
-        parse_and_check("register r { field a } block b { bytes 1 register r } "
-                        "system s { bytes 1 block x { bytes 1 register r } } "
-                        "system t { bytes 1 block x { bytes 1 register r } }",
-                        "x");
-    });
-    EXPECT_EQ(inline_twin.err,
-              "Error: Ambiguious 'topname' specified. Two blocks with same (x) topname found!\n\n");
-    const child_result block_and_system = run_in_child([] {
-        parse_and_check("register r { field a } block b { bytes 1 register r } "
-                        "system s { bytes 1 system b { bytes 1 block b } }",
-                        "b");
-    });
-    EXPECT_EQ(block_and_system.err,
-              "Error: Ambiguious 'topname' specified. At least, one block and "
-              "one system with same (b) topname found!\n\n");
-}
-
 } // namespace
 
 namespace {
@@ -375,19 +351,6 @@ TEST(SystemModel, DomainQualifiedInstancesShareOneCopy) {
     // Without a rename the instance takes the definition's name.
     const auto ss_doms = items<brix_system_domain_tag>(system_type("ss")->domains);
     EXPECT_STREQ(items<brix_block_tag>(ss_doms.at(0)->components).at(0)->name, "br");
-}
-
-TEST(SystemModel, InconsistentPathsAcrossDomains) {
-    const child_result r = run_in_child([] {
-        parse_pure(
-            "register r { field a } "
-            "block br { domain h { bytes 4 register r } domain g { bytes 4 register r = r1 } } "
-            "system top { domain d0 { bytes 4 block br.h = x (p) } "
-            "domain d1 { bytes 4 block br.g = x (q) } }");
-    });
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.err, "Error: System 'top' - Inconsistent hdl_path specification found among "
-                     "multiple domain instantiations of block 'x'.\n\n");
 }
 
 } // namespace
