@@ -289,6 +289,8 @@ int brix_main(int argc, char** argv) {
                 pure_brix_file);
         brix_exit(1);
     }
+    // The scanner may still stand on another input of this process.
+    brix_scanner_restart(yyin);
     initialize();
     yyparse();
     check_semantics(top);
