@@ -9,6 +9,7 @@
 #include "parser/parser.hpp"
 #include "semantic/semantic.hpp"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -148,6 +149,9 @@ void brix_name_pure_file() {
 
 int brix_main(int argc, char** argv) {
     print_banner();
+    // A file that outgrows the size limit gives its write an error to report; the
+    // signal would end the run without a word.
+    signal(SIGXFSZ, SIG_IGN);
     Tcl_FindExecutable(argv[0]);
 
     char* top = nullptr;
