@@ -16,6 +16,9 @@ for cfg in release asan; do
     echo "== $cfg tests"
     ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
         ctest --test-dir "$dir" -j "$jobs" --output-on-failure || status=1
+    # The unit tests also pass one after another in a single process.
+    echo "== $cfg unit tests in one process"
+    ASAN_OPTIONS=detect_leaks=0 "$dir/tests/brix_unit_tests" --gtest_brief=1 || status=1
 done
 # A release build without Tcl's private headers, which takes the public paths: its golden
 # cases and unit tests.

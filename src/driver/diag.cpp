@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cerrno>
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
@@ -9,6 +10,7 @@
 #include <map>
 #include <string>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 char pure_brix_file[100] = "";
@@ -190,7 +192,60 @@ void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
             text += c;
         }
     }
-    fwrite_unlocked(text.data(), 1, text.size(), out);
+    if (fwrite_unlocked(text.data(), 1, text.size(), out) != text.size()) {
+        brix_write_failed(out);
+    }
+}
+
+namespace {
+// The generated files now open, with their names.
+std::vector<std::pair<FILE*, std::string>>& open_outputs() {
+    static std::vector<std::pair<FILE*, std::string>> outputs;
+    return outputs;
+}
+
+std::string output_name(FILE* fp) {
+    for (const auto& [stream, name] : open_outputs()) {
+        if (stream == fp) {
+            return name;
+        }
+    }
+    return "";
+}
+} // namespace
+
+FILE* brix_open_output(const std::string& name) {
+    FILE* fp = fopen(name.c_str(), "w");
+    if (fp != nullptr) {
+        open_outputs().emplace_back(fp, name);
+    }
+    return fp;
+}
+
+void brix_write_failed(const char* name, int error) {
+    brix_error("Error: Failed to write file '%s' (%s).", name, strerror(error != 0 ? error : EIO));
+}
+
+void brix_write_failed(FILE* fp) {
+    const int error = errno;
+    brix_write_failed(output_name(fp).c_str(), error);
+}
+
+void brix_close_output(FILE*& fp) {
+    FILE* const stream = fp;
+    // The pointer is cleared first: the way out flushes the model's stream if it is set.
+    fp = nullptr;
+    if (stream == brx_model_fp) {
+        brx_model_fp = nullptr;
+    }
+    const std::string name = output_name(stream);
+    std::erase_if(open_outputs(), [stream](const auto& output) { return output.first == stream; });
+    errno = 0;
+    const bool failed = fflush(stream) != 0 || ferror(stream) != 0;
+    const int error = errno;
+    if (fclose(stream) != 0 || failed) {
+        brix_write_failed(name.c_str(), error != 0 ? error : errno);
+    }
 }
 
 long long brix_pow(int32_t base, int32_t exponent) {

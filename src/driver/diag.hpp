@@ -92,6 +92,15 @@ template <class... A> void brix_emit_to(FILE* out, const char* fmt, const A&... 
     brix_vemit_to(out, fmt, brix_args{v.data(), v.size()});
 }
 
+// Generated files. brix_open_output opens one for writing and keeps its name for the report
+// of a failed write (null when it cannot be opened; the caller has its own message).
+// brix_close_output closes it and clears the pointer. A failed write or close ends the run
+// through brix_write_failed, which names the file and the system's reason.
+FILE* brix_open_output(const std::string& name);
+void brix_close_output(FILE*& fp);
+[[noreturn]] void brix_write_failed(const char* name, int error);
+[[noreturn]] void brix_write_failed(FILE* fp);
+
 // Bison's own error entry.
 [[noreturn]] void yyerror(const char* message);
 

@@ -10,6 +10,7 @@
 #include "parser/parser.hpp"
 #include "semantic/semantic.hpp"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -285,6 +286,7 @@ void read_model(const run_request& run) {
                 pure_brix_file);
         brix_exit(1);
     }
+    // The scanner may still stand on another input of this process.
     brix_scanner_restart(yyin);
     initialize();
     yyparse();
@@ -314,6 +316,9 @@ void write_outputs(const run_request& run) {
 
 int brix_main(int argc, char** argv) {
     print_banner();
+    // A file that outgrows the size limit gives its write an error to report; the
+    // signal would end the run without a word.
+    signal(SIGXFSZ, SIG_IGN);
     Tcl_FindExecutable(argv[0]);
     run_request run = scan_command_line(argc, argv);
     read_model(run);

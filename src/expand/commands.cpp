@@ -320,7 +320,7 @@ int write_doc(int argc, const char** argv) {
     w.drain();
     brix_flush_tcl_stdout();
     printf("{\n%s\n}\n", body);
-    fflush(stdout);
+    brix_flush_pure_stdio();
     return TCL_OK;
 }
 
@@ -355,7 +355,7 @@ void write_constraint_body(const char* body) {
     --brix_level;
     write_tabs(brix_level);
     fputs("}\n", stdout);
-    fflush(stdout);
+    brix_flush_pure_stdio();
 }
 
 int write_constraint(int argc, const char** argv) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -29,6 +30,8 @@ char* brix_inc_dirs = nullptr;
 namespace {
 
 char brixgen_cmdbuf[1100];
+// The pure file being written, for the report of a failed write.
+const char* pure_file_name = "";
 
 // Creates the pure file exclusively and without following links, so that a file or
 // link planted under the predictable name is neither followed nor truncated.
@@ -181,6 +184,17 @@ void brix_flush_tcl_stdout() {
     brix_release_tcl_stdout();
     if (*result != '\0') {
         fputs(result, stdout);
+    }
+}
+
+void brix_pure_write_failed(int error) {
+    brix_write_failed(pure_file_name, error);
+}
+
+void brix_flush_pure_stdio() {
+    errno = 0;
+    if (fflush(stdout) != 0 || ferror(stdout) != 0) {
+        brix_pure_write_failed(errno);
     }
 }
 
@@ -345,12 +359,15 @@ char* brix_dirname(const char* path) {
 
 void expand_tcl_constructs(const char* description_file, const char* pure_file) {
     const int fd = create_pure_file(pure_file);
+    pure_file_name = pure_file;
 
     // Both of Tcl's stdout channel, made when first used, and stdio's stdout write into
     // the pure file, so descriptor 1 is moved before the interpreter exists.
     const int user_stdout = dup(1);
     close(1);
     dup(fd);
+    // From here stdio's error flag speaks of the pure file only.
+    clearerr(stdout);
 
     setup_interpreter();
 
@@ -376,10 +393,16 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     // What stdio still holds is left for the user's standard output.
     brix_flush_tcl_stdout();
-    close(fd);
-    close(1);
+    // A write that stdio made on its own shows only in its error flag.
+    int error = ferror(stdout) != 0 ? EIO : 0;
+    if (close(fd) != 0 || close(1) != 0) {
+        error = error != 0 ? error : errno;
+    }
     dup(user_stdout);
     close(user_stdout);
+    if (error != 0) {
+        brix_pure_write_failed(error);
+    }
     (void)!chdir(user_pwd);
     free(user_pwd);
     free(user_ppwd);

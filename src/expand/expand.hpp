@@ -80,6 +80,10 @@ bool brix_hold_directly(Tcl_Channel out, std::string_view text);
 // Prints the interpreter's result through stdio without a flush, and leaves the result
 // as it was.
 void brix_print_result();
+// Flushes stdio's stdout into the pure file; a failed write ends the run.
+void brix_flush_pure_stdio();
+// Ends the run for a failed write into the pure file, with the system's reason.
+[[noreturn]] void brix_pure_write_failed(int error);
 // Evaluates "flush stdout" so that stdio may write behind Tcl's channel; fatal on error.
 void brix_flush_tcl_stdout();
 

@@ -27,15 +27,28 @@ std::string held;
 // down, as without this channel.
 bool write_through = false;
 
+// Writes all of it, or ends the run: the pure description must not lose a byte.
 int write_down(const char* bytes, int count) {
-    return Tcl_WriteRaw(below, bytes, count);
+    for (int done = 0; done < count;) {
+        const int written = Tcl_WriteRaw(below, bytes + done, count - done);
+        if (written <= 0) {
+            brix_pure_write_failed(written < 0 ? Tcl_GetErrno() : 0);
+        }
+        done += written;
+    }
+    return count;
 }
 
 void release() {
-    if (!held.empty()) {
-        write_down(held.data(), static_cast<int>(held.size()));
-        held.clear();
+    if (held.empty()) {
+        return;
     }
+    // Taken out first, so that the way out after a failed write finds nothing to write.
+    std::string out;
+    out.swap(held);
+    write_down(out.data(), static_cast<int>(out.size()));
+    out.clear();
+    held.swap(out);
 }
 
 int held_close(ClientData, Tcl_Interp*) {
@@ -48,13 +61,9 @@ int held_input(ClientData, char*, int, int* error) {
     return -1;
 }
 
-int held_output(ClientData, const char* bytes, int count, int* error) {
+int held_output(ClientData, const char* bytes, int count, int*) {
     if (write_through) {
-        const int written = write_down(bytes, count);
-        if (written < 0) {
-            *error = Tcl_GetErrno();
-        }
-        return written;
+        return write_down(bytes, count);
     }
     held.append(bytes, static_cast<std::size_t>(count));
     if (held.size() >= held_limit) {

@@ -162,7 +162,7 @@ void emit_vhdl_bkdr_connection_module(const char* top) {
     }
     // The connector goes beside the model whatever name the model was given.
     const std::string name = std::string("brx_vhdl_bkdrs_") + top + ".v";
-    FILE* fp = fopen(name.c_str(), "w");
+    FILE* fp = brix_open_output(name);
     if (fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", name);
     }
@@ -171,5 +171,5 @@ void emit_vhdl_bkdr_connection_module(const char* top) {
     fputs("\n\tinitial begin\n", fp);
     fputs(brix_hdlxmr_initial_block.c_str(), fp);
     fputs("\tend\nendmodule\n", fp);
-    fclose(fp);
+    brix_close_output(fp);
 }

@@ -529,7 +529,7 @@ const brix_symrec* init(const char* name) {
     const brix_symrec* sym = lookup_design_top(name);
     top = name;
     const std::string file_name = "brx_" + top + ".h";
-    brx_model_fp = fopen(file_name.c_str(), "w");
+    brx_model_fp = brix_open_output(file_name);
     if (brx_model_fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", file_name);
     }
@@ -544,8 +544,7 @@ const brix_symrec* init(const char* name) {
 }
 
 void cleanup() {
-    fclose(brx_model_fp);
-    brx_model_fp = nullptr;
+    brix_close_output(brx_model_fp);
     all_blocks.clear();
     all_systems.clear();
     all_block_sizes.clear();

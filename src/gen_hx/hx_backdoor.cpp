@@ -18,7 +18,7 @@ std::string side_file_name(const char* suffix) {
 }
 
 FILE* open_side_file(const std::string& name) {
-    FILE* fp = fopen(name.c_str(), "w");
+    FILE* fp = brix_open_output(name);
     if (fp == nullptr) {
         brix_error("Error: Failed to open file '%s' for writing...", name);
     }
@@ -183,9 +183,7 @@ void emit_hx_backdoor_file_head() {
 void emit_hx_backdoor_file_tail() {
     brix_emit_to(brx_bkdrs_v_fp, "\nendmodule\n");
     brix_emit_to(brx_bkdrs_hxh_fp, "\n\n#endif\n");
-    fclose(brx_bkdrs_v_fp);
-    fclose(brx_bkdrs_hxh_fp);
-    brx_bkdrs_v_fp = nullptr;
-    brx_bkdrs_hxh_fp = nullptr;
+    brix_close_output(brx_bkdrs_v_fp);
+    brix_close_output(brx_bkdrs_hxh_fp);
     verilog_module_name.clear();
 }

@@ -1131,7 +1131,7 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     brix_largest_vregister_incr = 0;
     uc_top = brix_strdup(upper(top).c_str());
     const std::string file_name = brix_model_file_name(top, lang);
-    brx_model_fp = fopen(file_name.c_str(), "w");
+    brx_model_fp = brix_open_output(file_name);
     if (brx_model_fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", file_name);
     }
@@ -1166,8 +1166,7 @@ void emit_brx_model(const char* top, const brix_gen_templates& lang) {
     }
     brix_free(uc_top);
     uc_top = nullptr;
-    fclose(brx_model_fp);
-    brx_model_fp = nullptr;
+    brix_close_output(brx_model_fp);
     for (brix_str2int_map* map : run_maps) {
         free_str2int_map(*map);
     }

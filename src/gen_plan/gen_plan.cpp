@@ -262,7 +262,7 @@ void emit_kpl_qvtp_model(const char* top_name) {
     plan_top = top_name;
     const brix_symrec* sym = lookup_design_top(top_name);
     const std::string file_name = "qvtp_" + std::string(top_name) + ".kpl";
-    kpl_fp = fopen(file_name.c_str(), "w");
+    kpl_fp = brix_open_output(file_name);
     if (kpl_fp == nullptr) {
         brix_error("Error: Failed to open output file '%s' for writing...", file_name);
     }
@@ -279,6 +279,5 @@ void emit_kpl_qvtp_model(const char* top_name) {
     for (brix_str2int_map* map : plan_maps) {
         free_str2int_map(*map);
     }
-    fclose(kpl_fp);
-    kpl_fp = nullptr;
+    brix_close_output(kpl_fp);
 }

@@ -225,6 +225,47 @@ for planted in file link; do
     end_case
 done
 
+# A write that fails ends the run at once with the file's name and the system's reason, and
+# the temporary file goes as on every error. Each output kind on a full device:
+for target in "brx_top.sv:-l sv" "brx_top.hxs:-l hx" "qvtp_top.kpl:-c b -l sv" \
+    "brx_bkdrs_top.hxh:-b -l hx" "brx_bkdrs_top.v:-b -l hx"; do
+    file=${target%%:*}
+    new_case "full_device_$file"
+    printf '%s' "$valid" >top.brix
+    ln -s /dev/full "$file"
+    # shellcheck disable=SC2086
+    run -q ${target#*:} -t top top.brix
+    expect_status 1
+    expect_stderr "Error: Failed to write file '$file' (No space left on device).
+"
+    expect_tmp 0
+    end_case
+done
+
+# Cut short by the file size limit (16 KB): the model of 30 registers, and the pure
+# description of 3000, which is written first.
+for registers in 30 3000; do
+    new_case "file_size_limit_$registers"
+    {
+        printf 'block top {\n    bytes 1\n'
+        for ((i = 0; i < registers; i++)); do
+            printf '    register r%d { bytes 1; field f { bits 8 } }\n' "$i"
+        done
+        printf '}\n'
+    } >top.brix
+    pre='ulimit -f 16'
+    run -q -l sv -t top top.brix
+    pre=""
+    expect_status 1
+    file=brx_top.sv
+    # The temporary name holds the time; the process id must be in it.
+    [ "$registers" = 3000 ] && file=$(sed -n "s/^Error: Failed to write file '\(\/tmp\/qvt_[0-9]*_${pid}_pure_brix\)'.*/\1/p" .stderr)
+    expect_stderr "Error: Failed to write file '${file:-?}' (File too large).
+"
+    expect_tmp 0
+    end_case
+done
+
 if [ "$fails" -ne 0 ]; then
     echo "$fails hostile-input checks failed"
     exit 1

@@ -266,3 +266,37 @@ TEST(ScannerFile, UnterminatedStringEndsTheRun) {
 }
 
 } // namespace
+
+// One long name or number scans in about the time of as much ordinary text: flex must not
+// rescan the token from its start at every refill of its buffer. Quadratic, 16 MB takes
+// half a minute; the bound leaves ample room for a slow or loaded machine.
+TEST(Scanner, LongTokensScanInLinearTime) {
+    constexpr std::size_t size = std::size_t{16} << 20;
+    const auto seconds_to_scan = [](const std::string& text) {
+        FILE* in = tmpfile();
+        fwrite(text.data(), 1, text.size(), in);
+        rewind(in);
+        initialize();
+        brix_scanner_restart(in);
+        const auto start = std::chrono::steady_clock::now();
+        int tokens = 0;
+        while (yylex() != 0) {
+            ++tokens;
+        }
+        const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+        fclose(in);
+        return std::pair{tokens, took.count()};
+    };
+    std::string ordinary;
+    while (ordinary.size() < size) {
+        ordinary += "field f { bits 8 }\n";
+    }
+    const double ordinary_seconds = seconds_to_scan(ordinary).second;
+    for (const std::string& text :
+         {std::string(size, 'a'), std::string(size, '7'), "'h" + std::string(size, 'f')}) {
+        const auto [tokens, took] = seconds_to_scan(text);
+        EXPECT_EQ(tokens, 1);
+        EXPECT_LT(took, 4 * ordinary_seconds + 1.0) << text.substr(0, 3);
+    }
+    brix_scanner_use_string("");
+}

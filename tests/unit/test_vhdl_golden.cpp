@@ -91,3 +91,40 @@ INSTANTIATE_TEST_SUITE_P(Cases, VhdlBackdoorGolden,
                          brix_test::golden_case_name);
 
 } // namespace
+
+namespace {
+
+// The side files that no command line reaches, written to a full device: the run ends with
+// the file's name and the reason, and leaves no temporary file.
+TEST(SideFileWrites, FailedWriteEndsTheRun) {
+    const struct {
+        fs::path dir;
+        const char* file;
+        bool c_interface;
+    } cases[] = {
+        {fs::path(BRIX_VHDL_GOLDEN_DIR) / "connector/field_paths", "brx_vhdl_bkdrs_top.v", false},
+        {fs::path(BRIX_C_GOLDEN_DIR) / "worked/sv_block", "brx_b.h", true},
+    };
+    for (const auto& c : cases) {
+        const fs::path work = fs::temp_directory_path() / ("brix_full_" + std::to_string(getpid()));
+        const brix_test::child_result run = brix_test::run_golden_case(c.dir, work, [&] {
+            brix_backdoor_top_path = strdup("tb.dut");
+            brix_vhdl_backdoor_top_path = strdup("tb.conn");
+            brix_gen_c_interface = c.c_interface ? 1 : 0;
+            std::ofstream("pid") << getpid();
+            if (symlink("/dev/full", c.file) != 0) {
+                _exit(99);
+            }
+        });
+        const std::string pid = slurp(work / "pid");
+        EXPECT_EQ(run.status, 1) << c.file;
+        EXPECT_EQ(run.err, std::string("Error: Failed to write file '") + c.file +
+                               "' (No space left on device).\n");
+        for (const auto& f : fs::directory_iterator("/tmp")) {
+            EXPECT_FALSE(f.path().string().ends_with("_" + pid + "_pure_brix")) << f.path();
+        }
+        fs::remove_all(work);
+    }
+}
+
+} // namespace
