@@ -378,23 +378,21 @@ void emit_regfile_class(const brix_regfile_type_tag* rf, uint64_t d) {
     brix_offset_walk walk;
     for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
         const auto* r = static_cast<const brix_register_tag*>(n->data);
-        uint64_t span = register_words(r->type, d);
-        walk.place(r->offset, true);
+        const uint64_t words = register_words(r->type, d);
+        const brix_placement p =
+            brix_place(walk, r->offset, true, r->array_size, r->increment, words);
         const char* rights = rights_of(r->rw_flag);
         const int unmapped = unmapped_of(r->offset);
         if (!is_array(r->array_size)) {
-            brix_emit(L().regfile_reg_new, r->name, r->name, walk.off, rights, unmapped);
+            brix_emit(L().regfile_reg_new, r->name, r->name, p.offset, rights, unmapped);
             emit_register_fields_construction(r, names);
         } else {
-            const uint64_t incr = increment_or(r->increment, span);
-            span = static_cast<uint64_t>(r->array_size) * incr;
             brix_emit(L().foreach_head, r->name);
-            brix_emit(L().regfile_reg_array_new, r->name, r->name, walk.off, incr, rights,
+            brix_emit(L().regfile_reg_array_new, r->name, r->name, p.offset, p.increment, rights,
                       unmapped);
             emit_register_fields_construction(r, names);
             brix_emit(L().foreach_tail);
         }
-        walk.advance(span);
     }
     brix_emit(L().regfile_ctor_tail);
     brix_emit(L().regfile_class_tail, suffix);
@@ -602,26 +600,22 @@ void emit_block_register(const brix_block_domain_tag* dom, const brix_register_t
     const uint64_t d = static_cast<uint64_t>(dom->bytes);
     const uint64_t words = register_words(r->type, d);
     check_no_shared_array(r);
-    walk.place(r->offset, true);
+    const brix_placement p = brix_place(walk, r->offset, true, r->array_size, r->increment, words);
     const char* rights = rights_of(r->rw_flag);
     const int unmapped = unmapped_of(r->offset);
-    uint64_t span = words;
     if (is_array(r->array_size)) {
-        const uint64_t incr = increment_or(r->increment, words);
-        span = static_cast<uint64_t>(r->array_size) * incr;
         brix_emit(L().foreach_head, r->name);
-        brix_emit(L().block_reg_array_new, r->name, r->name, walk.off, incr, domain_word(dom),
-                  rights, unmapped);
+        brix_emit(L().block_reg_array_new, r->name, r->name, p.offset, p.increment,
+                  domain_word(dom), rights, unmapped);
         emit_register_fields_construction(r, names);
         brix_emit(L().foreach_tail);
     } else if (seen_shared_register(shared, r)) {
-        brix_emit(L().block_obj_add_domain, r->name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_add_domain, r->name, p.offset, domain_word(dom), rights, unmapped);
     } else {
         const char* name = r->type->is_shared == 1 ? r->type->name : r->name;
-        brix_emit(L().block_obj_new, r->name, name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_new, r->name, name, p.offset, domain_word(dom), rights, unmapped);
         emit_register_fields_construction(r, names);
     }
-    walk.advance(span);
 }
 
 void emit_block_memory(const brix_block_domain_tag* dom, const brix_memory_tag* m,
@@ -633,34 +627,31 @@ void emit_block_memory(const brix_block_domain_tag* dom, const brix_memory_tag* 
         brix_warn("Warning: %d bits memory '%s' instantiated in %d bytes block.\n",
                   static_cast<int>(t->bits), t->name, static_cast<int>(d));
     }
-    walk.place(m->offset, true);
+    const brix_placement p =
+        brix_place(walk, m->offset, true, -1, nullptr, brix_memory_words(t, d));
     const char* rights = rights_of(m->rw_flag);
     const int unmapped = unmapped_of(m->offset);
     if (seen_shared_memory(shared, m)) {
-        brix_emit(L().block_obj_add_domain, m->name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_add_domain, m->name, p.offset, domain_word(dom), rights, unmapped);
     } else {
         const char* name = t->is_shared == 1 ? t->name : m->name;
-        brix_emit(L().block_obj_new, m->name, name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_new, m->name, name, p.offset, domain_word(dom), rights, unmapped);
     }
-    walk.advance(t->size * get_ceil(t->bits, d * 8));
 }
 
 void emit_block_regfile(const brix_block_domain_tag* dom, const brix_regfile_tag* f,
                         brix_offset_walk& walk) {
     const uint64_t size =
         get_regfile_size_in_block_offsets(f->type, static_cast<uint64_t>(dom->bytes));
-    walk.place(f->offset, false);
-    uint64_t span = size;
+    const brix_placement p = brix_place(walk, f->offset, false, f->array_size, f->increment, size);
     if (is_array(f->array_size)) {
-        const uint64_t incr = increment_or(f->increment, size);
-        span = static_cast<uint64_t>(f->array_size) * incr;
         brix_emit(L().foreach_head, f->name);
-        brix_emit(L().block_regfile_array_new, f->name, f->name, walk.off, incr, domain_word(dom));
+        brix_emit(L().block_regfile_array_new, f->name, f->name, p.offset, p.increment,
+                  domain_word(dom));
         brix_emit(L().foreach_tail);
     } else {
-        brix_emit(L().block_regfile_new, f->name, f->name, walk.off, domain_word(dom));
+        brix_emit(L().block_regfile_new, f->name, f->name, p.offset, domain_word(dom));
     }
-    walk.advance(span);
 }
 
 // Virtual registers are placed in their memory at run time and take no block offsets.
@@ -826,11 +817,7 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
     const auto bytes = static_cast<uint64_t>(
         node->tag == BRIX_BLOCK ? instance_domain_bytes<brix_block_domain_tag>(c)
                                 : instance_domain_bytes<brix_system_domain_tag>(c));
-    const uint64_t b = static_cast<uint64_t>(sys_dom->bytes);
-    uint64_t span = size;
-    if (bytes > b) {
-        span = size * get_ceil(bytes, b);
-    }
+    const uint64_t span = brix_subsystem_words(size, bytes, static_cast<uint64_t>(sys_dom->bytes));
     const bool multi_domain = c.type_domains != nullptr && c.type_domains->next != nullptr;
     const std::string key = c.class_key + " " + c.name;
     const char* stored = nullptr;
@@ -838,9 +825,7 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
         stored = get_str2str_map_value(instantiated, key.c_str());
     }
     const bool first = stored == nullptr;
-    if (c.offset != nullptr) {
-        walk.place(c.offset, false);
-    }
+    const brix_placement p = brix_place(walk, c.offset, false, c.array_size, c.increment, span);
     const char* sys_domain = domain_word(sys_dom);
     const char* inst_domain = c.domain != nullptr ? c.domain : "";
     if (!is_array(c.array_size)) {
@@ -848,25 +833,22 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
             if (multi_domain) {
                 add_str2str_map_entry(instantiated, brix_strdup(key.c_str()), brix_strdup(c.name));
             }
-            brix_emit(L().sys_comp_new, c.name, c.name, walk.off);
+            brix_emit(L().sys_comp_new, c.name, c.name, p.offset);
         } else if (strcmp(stored, c.name) != 0) {
             brix_emit(L().sys_comp_same, c.name, stored);
         }
-        brix_emit(c.register_one, c.name, inst_domain, sys_domain, walk.off);
-        walk.advance(span);
+        brix_emit(c.register_one, c.name, inst_domain, sys_domain, p.offset);
         return;
     }
-    const uint64_t incr = increment_or(c.increment, span);
     brix_emit(L().foreach_head, c.name);
     if (first) {
         add_str2str_map_entry(instantiated, brix_strdup(key.c_str()), brix_strdup(c.name));
-        brix_emit(L().sys_comp_array_new, c.name, c.name, walk.off, incr);
+        brix_emit(L().sys_comp_array_new, c.name, c.name, p.offset, p.increment);
     } else if (strcmp(stored, c.name) != 0) {
         brix_emit(L().sys_comp_array_same, c.name, stored);
     }
-    brix_emit(c.register_array, c.name, inst_domain, sys_domain, walk.off, incr);
+    brix_emit(c.register_array, c.name, inst_domain, sys_domain, p.offset, p.increment);
     brix_emit(L().foreach_tail);
-    walk.advance(static_cast<uint64_t>(c.array_size) * incr);
 }
 
 void emit_system_constructor(brix_system_type_tag* type) {
@@ -1046,16 +1028,31 @@ uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint
     for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
         const auto* r = static_cast<const brix_register_tag*>(n->data);
         raise(brix_largest_register_bytes, static_cast<uint32_t>(r->type->bytes));
-        const uint64_t words = get_ceil(static_cast<uint64_t>(r->type->bytes), bytes);
-        uint64_t span = words;
-        if (is_array(r->array_size)) {
-            check_no_shared_array(r);
-            span = static_cast<uint64_t>(r->array_size) * increment_or(r->increment, words);
-        }
-        walk.place(r->offset, true);
-        walk.advance(span);
+        check_no_shared_array(r);
+        brix_place(walk, r->offset, true, r->array_size, r->increment,
+                   get_ceil(static_cast<uint64_t>(r->type->bytes), bytes));
     }
     return walk.size;
+}
+
+brix_placement brix_place(brix_offset_walk& walk, const char* offset, bool honour_none,
+                          int32_t array_size, const char* increment, uint64_t words) {
+    walk.place(offset, honour_none);
+    brix_placement p{walk.off, 1, words, walk.unmapped};
+    if (is_array(array_size)) {
+        p.count = static_cast<uint64_t>(array_size);
+        p.increment = increment_or(increment, words);
+    }
+    walk.advance(p.count * p.increment);
+    return p;
+}
+
+uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes) {
+    return t->size * get_ceil(t->bits, domain_bytes * 8);
+}
+
+uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes) {
+    return bytes > system_bytes ? size * get_ceil(bytes, system_bytes) : size;
 }
 
 void emit_block_components(brix_block_type_tag* type) {

@@ -224,3 +224,20 @@ template <class Pos> struct brix_basic_offset_walk {
     }
 };
 using brix_offset_walk = brix_basic_offset_walk<uint64_t>;
+
+// One component's place in its list, in words of the domain.
+struct brix_placement {
+    uint64_t offset;    // of the first element
+    uint64_t count;     // elements: 1 for a scalar
+    uint64_t increment; // words from one element to the next; the span of a scalar
+    bool unmapped;      // `@none`: no address and no space
+};
+// Places a component whose one element takes `words` words and moves the walk past it. An
+// array steps by its written increment, else by `words`.
+brix_placement brix_place(brix_offset_walk& walk, const char* offset, bool honour_none,
+                          int32_t array_size, const char* increment, uint64_t words);
+// Words one location of a memory takes in a domain of `domain_bytes`.
+uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes);
+// Words of a system domain that a block or system of `size` words in its own domain of
+// `bytes` takes in a system domain of `system_bytes`.
+uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes);
