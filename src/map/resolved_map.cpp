@@ -143,6 +143,7 @@ map_node resolver::reg(const brix_register_tag* r, brix_offset_walk& walk, uint6
     const brix_placement p = brix_place(walk, r->offset, true, r->array_size, r->increment, words);
     map_node n = node_at(map_kind::reg, r->name, f, p, words, r->src, r);
     n.type = suffix_of(t);
+    n.type_src = t->src;
     n.doc = doc_of(t->doc);
     n.attributes = attributes_of(t->attributes);
     n.hdl_path = path_text(t->is_shared == 1 ? t->hdl_path : r->hdl_path);
@@ -158,6 +159,7 @@ map_node resolver::memory(const brix_memory_tag* m, brix_offset_walk& walk, uint
     const brix_placement p = brix_place(walk, m->offset, true, -1, nullptr, words);
     map_node n = node_at(map_kind::memory, m->name, f, p, words, m->src, m);
     n.type = suffix_of(t);
+    n.type_src = t->src;
     n.doc = doc_of(t->doc);
     n.attributes = attributes_of(t->attributes);
     n.hdl_path = path_text(t->is_shared == 1 ? t->hdl_path : m->hdl_path);
@@ -174,6 +176,7 @@ map_node resolver::regfile(const brix_regfile_tag* rf, brix_offset_walk& walk, u
         brix_place(walk, rf->offset, false, rf->array_size, rf->increment, size);
     map_node n = node_at(map_kind::regfile, rf->name, f, p, size, rf->src, rf);
     n.type = suffix_of(rf->type);
+    n.type_src = rf->type->src;
     n.doc = doc_of(rf->type->doc);
     n.hdl_path = path_text(rf->hdl_path);
     const uint64_t layout = regfile_bytes_.try_emplace(n.type, d).first->second;
@@ -194,6 +197,7 @@ map_node resolver::vreg(const brix_vregister_tag* v, const frame& f) {
     n.name = text_of(v->name);
     n.path = f.path + "." + n.name;
     n.type = suffix_of(t);
+    n.type_src = t->src;
     n.count = v->array_size > 0 ? static_cast<uint64_t>(v->array_size) : 1;
     n.offset = v->offset != nullptr ? to_dec(v->offset) : 0;
     n.bytes = static_cast<uint64_t>(t->bytes);
@@ -289,6 +293,7 @@ map_node resolver::sub(const brix_list_tag* c, brix_offset_walk& walk, uint64_t 
         node_at(is_block ? map_kind::block : map_kind::system, is_block ? b->name : s->name, f, p,
                 span, is_block ? b->src : s->src, c->data);
     n.type = suffix;
+    n.type_src = is_block ? b->type->src : s->type->src;
     n.domain = text_of(bd != nullptr ? bd->name : sd->name);
     n.doc = doc_of(is_block ? b->type->doc : s->type->doc);
     n.attributes = attributes_of(is_block ? b->type->attributes : s->type->attributes);

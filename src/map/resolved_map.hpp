@@ -47,7 +47,8 @@ struct map_node {
     std::string doc;
     std::vector<std::pair<std::string, std::string>> attributes; // in source order
     brix_src_pos src;
-    std::string hdl_path; // the path the backdoor takes, "" when none
+    brix_src_pos type_src; // the definition of its type
+    std::string hdl_path;  // the path the backdoor takes, "" when none
     // Registers and virtual registers.
     uint64_t bytes = 0;
     std::vector<map_field> fields;
