@@ -580,10 +580,12 @@ void check_node(walk_state& s, const map_node& n, bool in_array) {
         check_coverage_array(s.out, n, in_array);
     }
     const bool sub = n.kind == map_kind::block || n.kind == map_kind::system;
-    if (sub && n.count > 1 && n.hdl_path.find("%d") != std::string::npos) {
+    // "%d" alone picks an instance per index when the model is written; "[%d]" stays an
+    // index at run time, into an array of module instances.
+    if (sub && n.count > 1 && n.hdl_path.find("[%d]") != std::string::npos) {
         report(s.out, n.src, severity::warning,
                "hdl path " + quoted(n.hdl_path) + " of " + map_kind_name(n.kind) + " array " +
-                   quoted(n.path) + " has '%d': the backdoor indexes a module instance array " +
+                   quoted(n.path) + " has '[%d]': the backdoor indexes a module instance array " +
                    "at run time",
                "block-array-path");
     }

@@ -19,8 +19,8 @@
 namespace {
 
 const char* const usage_text =
-    "usage: brixmap check -t TOP [-I DIR1:...:DIRN] [-b] [-c b|a|f] [--werror] DESCRIPTION\n"
-    "       brixmap json|md -t TOP [-I DIR1:...:DIRN] [-o FILE] DESCRIPTION\n"
+    "usage: brixmap check -t TOP [-I DIR1:...:DIRN] [-b] [-c b|a|f] [-q] [--werror] DESCRIPTION\n"
+    "       brixmap json|md -t TOP [-I DIR1:...:DIRN] [-o FILE] [-q] DESCRIPTION\n"
     "       brixmap --help | --version\n";
 
 const char* const help_text =
@@ -36,6 +36,7 @@ const char* const help_text =
     "  -o FILE    output file; '-' is standard output\n"
     "  -b         check for a run with backdoor classes (brixgen -b)\n"
     "  -c LETTERS check for a run with these coverage models (brixgen -c)\n"
+    "  -q         no warnings from reading the description\n"
     "  --werror   warnings count as errors\n";
 
 [[noreturn]] void usage_error(const std::string& message) {
@@ -102,6 +103,8 @@ void read_option(int argc, char** argv, int& i, map_options& o) {
     } else if (arg == "-c" && check) {
         add_coverage(value_of(argc, argv, i));
         o.check.field_values = brix_cvr_field_vals == 1;
+    } else if (arg == "-q") {
+        brix_quiet_mode = 1;
     } else if (arg == "--werror" && check) {
         o.check.werror = true;
     } else if (arg.size() > 1 && arg[0] == '-') {
