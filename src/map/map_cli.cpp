@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <tcl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "driver/diag.hpp"
@@ -178,33 +179,44 @@ void read_description(const map_options& o) {
     pure_brix_file[0] = '\0';
 }
 
-// Writes the whole text or nothing: a file that could not be written is removed.
-int write_output(const std::string& text, const std::string& name) {
+int write_failed(const std::string& name, int error) {
     if (name == "-") {
-        if (fwrite(text.data(), 1, text.size(), stdout) != text.size() || fflush(stdout) != 0) {
-            fprintf(stderr, "brixmap: cannot write to standard output: %s\n", strerror(errno));
-            return 1;
-        }
+        fprintf(stderr, "Error: Failed to write standard output (%s).\n", strerror(error));
+    } else {
+        fprintf(stderr, "Error: Failed to write file '%s' (%s).\n", name.c_str(), strerror(error));
+    }
+    return 1;
+}
+
+// Writes an output whole or not at all: a failed write or close is an error, and the
+// regular file it was going to is removed (a device or pipe is left as it is).
+template <class Write> int write_output(const std::string& name, Write&& write) {
+    const bool to_stdout = name == "-";
+    FILE* f = to_stdout ? stdout : fopen(name.c_str(), "w");
+    if (f == nullptr) {
+        return write_failed(name, errno);
+    }
+    struct stat st {};
+    const bool regular = !to_stdout && fstat(fileno(f), &st) == 0 && S_ISREG(st.st_mode);
+    errno = 0;
+    write(f);
+    int error = ferror(f) != 0 ? (errno != 0 ? errno : EIO) : 0;
+    if ((to_stdout ? fflush(f) : fclose(f)) != 0 && error == 0) {
+        error = errno != 0 ? errno : EIO;
+    }
+    if (error == 0) {
         return 0;
     }
-    FILE* f = fopen(name.c_str(), "w");
-    if (f == nullptr) {
-        fprintf(stderr, "brixmap: cannot open '%s' for writing: %s\n", name.c_str(),
-                strerror(errno));
-        return 1;
-    }
-    const bool written = fwrite(text.data(), 1, text.size(), f) == text.size();
-    if (fclose(f) != 0 || !written) {
-        fprintf(stderr, "brixmap: cannot write '%s': %s\n", name.c_str(), strerror(errno));
+    if (regular) {
         unlink(name.c_str());
-        return 1;
     }
-    return 0;
+    return write_failed(name, error);
 }
 
 int run_check(const resolved_map& map, const map_check_options& options) {
     const map_check_result r = map_check(map, options);
-    const int failed = write_output(r.findings, "-");
+    const int failed =
+        write_output("-", [&](FILE* f) { fwrite(r.findings.data(), 1, r.findings.size(), f); });
     fprintf(stderr, "brixmap: %d error%s, %d warning%s, %d note%s\n", r.errors,
             r.errors == 1 ? "" : "s", r.warnings, r.warnings == 1 ? "" : "s", r.notes,
             r.notes == 1 ? "" : "s");
@@ -217,12 +229,15 @@ int brixmap_main(int argc, char** argv) {
     Tcl_FindExecutable(argv[0]);
     const map_options o = read_command_line(argc, argv);
     read_description(o);
+    const bool json = o.command == "json";
+    const std::string name =
+        o.output != nullptr ? o.output : std::string(o.top) + (json ? ".json" : ".md");
+    if (json) {
+        return write_output(name, [&](FILE* f) { map_json(o.top, f); });
+    }
     const resolved_map map = resolve_map(o.top);
     if (o.command == "check") {
         return run_check(map, o.check);
     }
-    const bool json = o.command == "json";
-    const std::string name =
-        o.output != nullptr ? o.output : std::string(o.top) + (json ? ".json" : ".md");
-    return write_output(json ? map_json(map) : map_markdown(map), name);
+    return write_output(name, [&](FILE* f) { map_markdown(map, f); });
 }

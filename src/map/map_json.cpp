@@ -7,10 +7,12 @@ namespace {
 // Writes JSON with two blanks of indent a level; members in the order they are written.
 class json_writer {
   public:
-    std::string out;
+    map_text out;
+
+    explicit json_writer(std::FILE* sink) { out.sink = sink; }
 
     void open(char bracket) {
-        out += bracket;
+        out.text += bracket;
         ++depth_;
         first_ = true;
     }
@@ -19,33 +21,33 @@ class json_writer {
         if (!first_) {
             newline();
         }
-        out += bracket;
+        out.text += bracket;
         first_ = false;
     }
     void key(const char* name) {
         item();
         string(name);
-        out += ": ";
+        out.text += ": ";
     }
     // The next value of an array.
     void item() {
         if (!first_) {
-            out += ',';
+            out.text += ',';
         }
         newline();
         first_ = false;
     }
     void string(const std::string& s) {
-        out += '"';
+        out.text += '"';
         for (const char c : s) {
             escaped(c);
         }
-        out += '"';
+        out.text += '"';
     }
-    void number(unsigned long long v) { out += std::to_string(v); }
-    void signed_number(long long v) { out += std::to_string(v); }
-    void boolean(bool v) { out += v ? "true" : "false"; }
-    void null() { out += "null"; }
+    void number(unsigned long long v) { out.text += std::to_string(v); }
+    void signed_number(long long v) { out.text += std::to_string(v); }
+    void boolean(bool v) { out.text += v ? "true" : "false"; }
+    void null() { out.text += "null"; }
     void optional_string(const std::string& s) {
         if (s.empty()) {
             null();
@@ -67,22 +69,22 @@ class json_writer {
     bool first_ = true;
 
     void newline() {
-        out += '\n';
-        out.append(static_cast<size_t>(depth_) * 2, ' ');
+        out.text += '\n';
+        out.text.append(static_cast<size_t>(depth_) * 2, ' ');
     }
     void escaped(char c) {
         switch (c) {
         case '"':
-            out += "\\\"";
+            out.text += "\\\"";
             return;
         case '\\':
-            out += "\\\\";
+            out.text += "\\\\";
             return;
         case '\n':
-            out += "\\n";
+            out.text += "\\n";
             return;
         case '\t':
-            out += "\\t";
+            out.text += "\\t";
             return;
         default:
             break;
@@ -90,9 +92,9 @@ class json_writer {
         if (static_cast<unsigned char>(c) < 0x20) {
             char buf[8];
             snprintf(buf, sizeof buf, "\\u%04x", static_cast<unsigned>(c));
-            out += buf;
+            out.text += buf;
         } else {
-            out += c;
+            out.text += c;
         }
     }
 };
@@ -139,6 +141,7 @@ void write_fields(json_writer& w, const std::vector<map_field>& fields) {
 }
 
 void write_components(json_writer& w, const std::vector<map_node>& nodes);
+void write_component(json_writer& w, const map_node& n);
 
 void write_node(json_writer& w, const map_node& n) {
     w.open('{');
@@ -202,16 +205,12 @@ void write_components(json_writer& w, const std::vector<map_node>& nodes) {
     w.key("components");
     w.open('[');
     for (const map_node& n : nodes) {
-        w.item();
-        write_node(w, n);
+        write_component(w, n);
     }
     w.close(']');
 }
 
-} // namespace
-
-std::string map_json(const resolved_map& map) {
-    json_writer w;
+void write_head(json_writer& w, const resolved_map& map) {
     w.open('{');
     w.field("tool", "brixmap");
     w.field("version", BRIX_VERSION);
@@ -222,19 +221,68 @@ std::string map_json(const resolved_map& map) {
     write_source(w, map.src);
     w.key("domains");
     w.open('[');
-    for (const map_domain& d : map.domains) {
-        w.item();
-        w.open('{');
-        w.key("name");
-        w.optional_string(d.name);
-        w.field("bytes", d.bytes);
-        w.key("endian");
-        w.optional_string(d.endian);
-        write_components(w, d.components);
-        w.close('}');
-    }
+}
+
+void write_domain_head(json_writer& w, const map_domain& d) {
+    w.item();
+    w.open('{');
+    w.key("name");
+    w.optional_string(d.name);
+    w.field("bytes", d.bytes);
+    w.key("endian");
+    w.optional_string(d.endian);
+    w.key("components");
+    w.open('[');
+}
+
+void write_component(json_writer& w, const map_node& n) {
+    w.item();
+    write_node(w, n);
+    w.out.spill();
+}
+
+void write_domain_tail(json_writer& w) {
     w.close(']');
     w.close('}');
-    w.out += '\n';
-    return std::move(w.out);
+}
+
+void write_tail(json_writer& w) {
+    w.close(']');
+    w.close('}');
+    w.out.text += '\n';
+    w.out.spill(0);
+}
+
+void write_document(json_writer& w, const resolved_map& map) {
+    write_head(w, map);
+    for (const map_domain& d : map.domains) {
+        write_domain_head(w, d);
+        for (const map_node& n : d.components) {
+            write_component(w, n);
+        }
+        write_domain_tail(w);
+    }
+    write_tail(w);
+}
+
+} // namespace
+
+std::string map_json(const resolved_map& map) {
+    json_writer w(nullptr);
+    write_document(w, map);
+    return std::move(w.out.text);
+}
+
+void map_json(const resolved_map& map, std::FILE* out) {
+    json_writer w(out);
+    write_document(w, map);
+}
+
+void map_json(const char* top, std::FILE* out) {
+    json_writer w(out);
+    resolve_map(top, {[&](const resolved_map& map) { write_head(w, map); },
+                      [&](const map_domain& d) { write_domain_head(w, d); },
+                      [&](const map_node& n) { write_component(w, n); },
+                      [&](const map_domain&) { write_domain_tail(w); }});
+    write_tail(w);
 }

@@ -113,11 +113,11 @@ map_node node_at(map_kind kind, const char* name, const frame& f, const brix_pla
 
 class resolver {
   public:
-    // Both return the words the domain spans.
+    // Both return the words the domain spans; with a stream, the nodes go there.
     uint64_t block_domain(const brix_block_domain_tag* dom, const frame& f,
-                          std::vector<map_node>& out);
+                          std::vector<map_node>& out, const map_stream* stream = nullptr);
     uint64_t system_domain(const brix_system_domain_tag* dom, const frame& f,
-                           std::vector<map_node>& out);
+                           std::vector<map_node>& out, const map_stream* stream = nullptr);
 
   private:
     // Words of a block or system domain, by the same key and first-come rule as the models.
@@ -212,10 +212,50 @@ map_node resolver::vreg(const brix_vregister_tag* v, const frame& f) {
     return n;
 }
 
+// Virtual registers sit in a memory of their block: their address follows from the
+// memory's, which may come later in the list.
+struct vreg_places {
+    struct place {
+        uint64_t address;
+        uint64_t unit; // bytes of one location
+    };
+    std::unordered_map<std::string, place> memories;
+    std::vector<size_t> waiting; // indices of virtual registers whose memory is still to come
+
+    bool locate(map_node& v) const {
+        const auto it = memories.find(v.memory);
+        if (it == memories.end()) {
+            return false;
+        }
+        v.address = it->second.address + v.offset * it->second.unit;
+        return true;
+    }
+    // Takes in the node just appended to `out`.
+    void note(std::vector<map_node>& out) {
+        map_node& n = out.back();
+        if (n.kind == map_kind::memory) {
+            memories.try_emplace(n.name, place{n.address, n.size / std::max<uint64_t>(n.words, 1)});
+            std::erase_if(waiting, [&](size_t i) { return locate(out[i]); });
+        } else if (n.kind == map_kind::vreg && n.placed && !locate(n)) {
+            waiting.push_back(out.size() - 1);
+        }
+    }
+};
+
+void hand_on(std::vector<map_node>& out, const map_stream* stream) {
+    if (stream != nullptr) {
+        for (const map_node& n : out) {
+            stream->component(n);
+        }
+        out.clear();
+    }
+}
+
 uint64_t resolver::block_domain(const brix_block_domain_tag* dom, const frame& f,
-                                std::vector<map_node>& out) {
+                                std::vector<map_node>& out, const map_stream* stream) {
     const auto d = static_cast<uint64_t>(dom->bytes);
     brix_offset_walk walk;
+    vreg_places vregs;
     for (const brix_list_tag* c = dom->components; c != nullptr; c = c->next) {
         switch (c->tag) {
         case BRIX_REGISTER:
@@ -230,19 +270,12 @@ uint64_t resolver::block_domain(const brix_block_domain_tag* dom, const frame& f
         default:
             out.push_back(vreg(static_cast<const brix_vregister_tag*>(c->data), f));
         }
-    }
-    // A virtual register sits in its memory: its address follows from the memory's.
-    for (map_node& v : out) {
-        if (v.kind != map_kind::vreg || !v.placed) {
-            continue;
-        }
-        const auto m = std::find_if(out.begin(), out.end(), [&](const map_node& n) {
-            return n.kind == map_kind::memory && n.name == v.memory;
-        });
-        if (m != out.end()) {
-            v.address = m->address + v.offset * (m->size / std::max<uint64_t>(m->words, 1));
+        vregs.note(out);
+        if (vregs.waiting.empty()) {
+            hand_on(out, stream);
         }
     }
+    hand_on(out, stream);
     return walk.size;
 }
 
@@ -308,31 +341,39 @@ map_node resolver::sub(const brix_list_tag* c, brix_offset_walk& walk, uint64_t 
 }
 
 uint64_t resolver::system_domain(const brix_system_domain_tag* dom, const frame& f,
-                                 std::vector<map_node>& out) {
+                                 std::vector<map_node>& out, const map_stream* stream) {
     brix_offset_walk walk;
     for (const brix_list_tag* c = dom->components; c != nullptr; c = c->next) {
         out.push_back(sub(c, walk, static_cast<uint64_t>(dom->bytes), f));
+        hand_on(out, stream);
     }
     return walk.size;
 }
 
 template <class Domain, class Type>
-void resolve_domains(resolver& r, const Type* type, resolved_map& map) {
+void resolve_domains(resolver& r, const Type* type, resolved_map& map, const map_stream* stream) {
+    if (stream != nullptr) {
+        stream->begin(map);
+    }
     for_each_domain<const Domain>(type->domains, [&](const Domain* d) {
         map_domain md{text_of(d->name), static_cast<uint64_t>(d->bytes), text_of(d->endian), {}};
         const frame f{0, md.bytes, map.top};
+        if (stream != nullptr) {
+            stream->begin_domain(md);
+        }
         if constexpr (std::is_same_v<Domain, brix_block_domain_tag>) {
-            r.block_domain(d, f, md.components);
+            r.block_domain(d, f, md.components, stream);
         } else {
-            r.system_domain(d, f, md.components);
+            r.system_domain(d, f, md.components, stream);
+        }
+        if (stream != nullptr) {
+            stream->end_domain(md);
         }
         map.domains.push_back(std::move(md));
     });
 }
 
-} // namespace
-
-resolved_map resolve_map(const char* top) {
+resolved_map resolve(const char* top, const map_stream* stream) {
     const brix_symrec* sym = lookup_top_symbol(top);
     resolved_map map{};
     map.top = top;
@@ -343,13 +384,23 @@ resolved_map resolve_map(const char* top) {
         map.kind = map_kind::block;
         map.doc = doc_of(t->doc);
         map.src = t->src;
-        resolve_domains<brix_block_domain_tag>(r, t, map);
+        resolve_domains<brix_block_domain_tag>(r, t, map, stream);
     } else {
         const auto* t = static_cast<const brix_system_type_tag*>(sym->data);
         map.kind = map_kind::system;
         map.doc = doc_of(t->doc);
         map.src = t->src;
-        resolve_domains<brix_system_domain_tag>(r, t, map);
+        resolve_domains<brix_system_domain_tag>(r, t, map, stream);
     }
     return map;
+}
+
+} // namespace
+
+resolved_map resolve_map(const char* top) {
+    return resolve(top, nullptr);
+}
+
+resolved_map resolve_map(const char* top, const map_stream& stream) {
+    return resolve(top, &stream);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -81,6 +82,17 @@ struct resolved_map {
 
 // The map of `top`, a block or system that the checks have found.
 resolved_map resolve_map(const char* top);
+
+// Where the pieces of a map go as they are resolved, for an output too big to hold whole.
+struct map_stream {
+    std::function<void(const resolved_map&)> begin; // the top, before its domains
+    std::function<void(const map_domain&)> begin_domain;
+    std::function<void(const map_node&)> component; // with its subtree, in list order
+    std::function<void(const map_domain&)> end_domain;
+};
+// The same map, handed to `stream` one component of a domain's list at a time and then
+// dropped: at most one such subtree is held, and the map returned has no components.
+resolved_map resolve_map(const char* top, const map_stream& stream);
 
 // Calls `f(node)` for every node of the tree, parents before children.
 template <class F> void for_each_node(const std::vector<map_node>& nodes, F&& f) {
