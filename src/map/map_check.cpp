@@ -537,8 +537,10 @@ void check_coverage_array(findings& out, const map_node& n, bool in_array) {
     const bool wanted = used != nullptr && used->field_vals == 1 && r->cvr_spec != nullptr &&
                         r->cvr_spec->field_vals == 1;
     if (wanted && (in_array || n.count > 1)) {
+        const std::string what = n.count > 1 ? "register array " + quoted(n.path)
+                                             : "register " + quoted(n.path) + " of a regfile array";
         report(out, n.src, severity::warning,
-               "field-value coverage of register array " + quoted(n.path) +
+               "field-value coverage of " + what +
                    ": the model samples it without an index, which does not compile",
                "coverage-array");
     }
@@ -598,8 +600,11 @@ void check_node(walk_state& s, const map_node& n, bool in_array) {
                "hdl-path");
     }
     check_overlap(s.out, n.components);
+    // A block samples the registers of its regfiles by name, arrays without an index; a
+    // block of an array has a class of its own, where its registers stand alone.
+    const bool regfile_array = n.kind == map_kind::regfile && n.count > 1;
     for (const map_node& c : n.components) {
-        check_node(s, c, in_array || n.count > 1);
+        check_node(s, c, regfile_array);
     }
 }
 
@@ -675,6 +680,8 @@ map_check_result map_check(const resolved_map& map, const map_check_options& opt
         }
     }
     check_unused(s, map);
+    // Sorted as the lines read: by file, by line, then by the rest of the text.
+    std::vector<std::tuple<std::string, unsigned long long, std::string>> lines;
     map_check_result r;
     for (const finding& f : out) {
         severity level = f.level;
@@ -684,9 +691,13 @@ map_check_result map_check(const resolved_map& map, const map_check_options& opt
         const char* word = level == severity::error     ? "error"
                            : level == severity::warning ? "warning"
                                                         : "note";
-        r.findings += f.file + ":" + std::to_string(f.line) + ": " + word + ": " + f.message +
-                      " [" + f.id + "]\n";
+        lines.emplace_back(f.file, f.line,
+                           std::string(word) + ": " + f.message + " [" + f.id + "]");
         ++(level == severity::error ? r.errors : level == severity::warning ? r.warnings : r.notes);
+    }
+    std::sort(lines.begin(), lines.end());
+    for (const auto& [file, line, text] : lines) {
+        r.findings += file + ":" + std::to_string(line) + ": " + text + "\n";
     }
     return r;
 }
