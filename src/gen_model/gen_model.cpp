@@ -1035,7 +1035,8 @@ uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint
     return walk.size;
 }
 
-brix_placement brix_place(brix_offset_walk& walk, const char* offset, bool honour_none,
+template <class Pos>
+brix_placement brix_place(brix_basic_offset_walk<Pos>& walk, const char* offset, bool honour_none,
                           int32_t array_size, const char* increment, uint64_t words) {
     walk.place(offset, honour_none);
     brix_placement p{walk.off, 1, words, walk.unmapped};
@@ -1046,6 +1047,10 @@ brix_placement brix_place(brix_offset_walk& walk, const char* offset, bool honou
     walk.advance(p.count * p.increment);
     return p;
 }
+template brix_placement brix_place(brix_offset_walk&, const char*, bool, int32_t, const char*,
+                                   uint64_t);
+template brix_placement brix_place(brix_basic_offset_walk<uint32_t>&, const char*, bool, int32_t,
+                                   const char*, uint64_t);
 
 uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes) {
     return t->size * get_ceil(t->bits, domain_bytes * 8);

@@ -233,8 +233,10 @@ struct brix_placement {
     bool unmapped;      // `@none`: no address and no space
 };
 // Places a component whose one element takes `words` words and moves the walk past it. An
-// array steps by its written increment, else by `words`.
-brix_placement brix_place(brix_offset_walk& walk, const char* offset, bool honour_none,
+// array steps by its written increment, else by `words`. Made for both walks of
+// brix_basic_offset_walk.
+template <class Pos>
+brix_placement brix_place(brix_basic_offset_walk<Pos>& walk, const char* offset, bool honour_none,
                           int32_t array_size, const char* increment, uint64_t words);
 // Words one location of a memory takes in a domain of `domain_bytes`.
 uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes);
