@@ -84,10 +84,6 @@ uint32_t top_words(uint32_t size) {
     return (size - 1) / top_level_domain_width + 1;
 }
 
-std::string size_key(const std::string& type_key, const char* domain) {
-    return domain != nullptr ? type_key + " " + domain : type_key;
-}
-
 bool visits(const char* domain_name, const char* wanted) {
     return wanted == nullptr || domain_name == nullptr || is_named(domain_name, wanted);
 }
@@ -426,19 +422,11 @@ void emit_block(const brix_block_type_tag* type, c_buffers& b, const char* domai
 // size in its own domain, times the words of this domain that one of its words spans.
 template <class Instance, class Domain>
 uint32_t instance_size(const Instance* inst, const std::unordered_map<std::string, uint32_t>& sizes,
-                       uint32_t u, const char* fatal) {
+                       uint32_t u) {
     const auto found = sizes.find(size_key(suffix_of(inst->type), inst->domain));
     uint32_t size = found != sizes.end() ? found->second : 0;
-    const Domain* own = nullptr;
-    for_each_domain<const Domain>(inst->type->domains, [&](const Domain* d) {
-        if (own == nullptr && (d->name == nullptr || is_named(d->name, inst->domain))) {
-            own = d;
-        }
-    });
-    if (own == nullptr) {
-        brix_error(fatal, inst->type->name, inst->domain != nullptr ? inst->domain : "");
-    }
-    const uint32_t w = static_cast<uint32_t>(own->bytes);
+    const auto w = static_cast<uint32_t>(
+        instance_domain<Domain>(inst->type->domains, inst->type->name, inst->domain).bytes);
     if (w > u) {
         size *= (w - 1) / u + 1;
     }
@@ -473,14 +461,12 @@ void emit_system_level_macros(const brix_system_type_tag* type, c_buffers& b, co
                 if (c->tag == BRIX_BLOCK) {
                     const auto* blk = static_cast<const brix_block_tag*>(c->data);
                     const uint32_t size = instance_size<brix_block_tag, brix_block_domain_tag>(
-                        blk, all_block_sizes, u,
-                        "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n");
+                        blk, all_block_sizes, u);
                     emit_system_addr(blk, b, block_addr, parent, walk, size);
                 } else if (c->tag == BRIX_SYSTEM) {
                     const auto* sys = static_cast<const brix_system_tag*>(c->data);
                     const uint32_t size = instance_size<brix_system_tag, brix_system_domain_tag>(
-                        sys, all_system_sizes, u,
-                        "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n");
+                        sys, all_system_sizes, u);
                     emit_system_addr(sys, b, subsystem_addr, parent, walk, size);
                 } else {
                     brix_error("Error: Invalid System Component found.\n");

@@ -424,11 +424,6 @@ const char* endian_word(const char* endian) {
     return "qvt_brx::NO_ENDIAN";
 }
 
-// The key of a domain's size: the class suffix, and the domain's name when it has one.
-std::string size_key(const std::string& suffix, const char* domain) {
-    return domain != nullptr ? suffix + " " + domain : suffix;
-}
-
 // Head of a block's or system's constructor: the first domain goes to `super.new`, the
 // others are added before any member is built.
 template <class Domain, class Type> void emit_container_ctor_head(const Type* type) {
@@ -760,7 +755,6 @@ struct system_component {
     const char* type_name;
     const brix_list_tag* type_domains;
     const brix_str2int_map* sizes;
-    const char* invalid;
     const char* register_one;
     const char* register_array;
 };
@@ -778,7 +772,6 @@ system_component describe(const brix_list_tag* c) {
                 b->type->name,
                 b->type->domains,
                 &all_block_sizes,
-                "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n",
                 L().register_block,
                 L().register_block_array};
     }
@@ -793,20 +786,8 @@ system_component describe(const brix_list_tag* c) {
             s->type->name,
             s->type->domains,
             &all_system_sizes,
-            "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n",
             L().register_subsys,
             L().register_subsys_array};
-}
-
-// The interface width of the domain of its type that an instance stands for.
-template <class Domain> int32_t instance_domain_bytes(const system_component& c) {
-    for (const brix_list_tag* n = c.type_domains; n != nullptr; n = n->next) {
-        const auto* d = static_cast<const Domain*>(n->data);
-        if (d->name == nullptr || (c.domain != nullptr && strcmp(d->name, c.domain) == 0)) {
-            return d->bytes;
-        }
-    }
-    brix_error(c.invalid, c.type_name, c.domain != nullptr ? c.domain : "");
 }
 
 void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_list_tag* node,
@@ -815,8 +796,9 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
     const uint64_t size = static_cast<uint64_t>(
         get_str2int_map_value(*c.sizes, size_key(c.suffix, c.domain).c_str()));
     const auto bytes = static_cast<uint64_t>(
-        node->tag == BRIX_BLOCK ? instance_domain_bytes<brix_block_domain_tag>(c)
-                                : instance_domain_bytes<brix_system_domain_tag>(c));
+        node->tag == BRIX_BLOCK
+            ? instance_domain<brix_block_domain_tag>(c.type_domains, c.type_name, c.domain).bytes
+            : instance_domain<brix_system_domain_tag>(c.type_domains, c.type_name, c.domain).bytes);
     const uint64_t span = brix_subsystem_words(size, bytes, static_cast<uint64_t>(sys_dom->bytes));
     const bool multi_domain = c.type_domains != nullptr && c.type_domains->next != nullptr;
     const std::string key = c.class_key + " " + c.name;

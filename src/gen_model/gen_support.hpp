@@ -7,6 +7,7 @@
 #include <cstring>
 #include <string>
 #include <strings.h>
+#include <type_traits>
 
 #include "gen_model/gen_model.hpp"
 #include "parser/model.hpp"
@@ -93,6 +94,29 @@ template <class Domain, class F> void for_each_component(const brix_list_tag* do
             f(d, c);
         }
     });
+}
+
+// The key of a domain's size: the class suffix, and the domain's name when it has one.
+inline std::string size_key(const std::string& suffix, const char* domain) {
+    return domain != nullptr ? suffix + " " + domain : suffix;
+}
+
+// The domain of its type that a block or system instance stands for: the type's unnamed
+// domain, else the one the instance names. The grammar makes an instance of a type with
+// several domains name one; an instance that still finds none stops the run.
+template <class Domain>
+const Domain& instance_domain(const brix_list_tag* type_domains, const char* type_name,
+                              const char* domain) {
+    for (const brix_list_tag* n = type_domains; n != nullptr; n = n->next) {
+        const auto* d = static_cast<const Domain*>(n->data);
+        if (d->name == nullptr || (domain != nullptr && strcmp(d->name, domain) == 0)) {
+            return *d;
+        }
+    }
+    brix_error(std::is_same_v<Domain, brix_block_domain_tag>
+                   ? "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n"
+                   : "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n",
+               type_name, domain != nullptr ? domain : "");
 }
 
 inline int count_nodes(const brix_list_tag* list) {

@@ -131,8 +131,6 @@ class resolver {
                      const frame& f);
     map_node vreg(const brix_vregister_tag* v, const frame& f);
     map_node sub(const brix_list_tag* c, brix_offset_walk& walk, uint64_t d, const frame& f);
-    template <class Domain, class Type>
-    const Domain* chosen_domain(const Type* type, const char* domain);
     template <class Domain> uint64_t domain_words(const std::string& key, const Domain* dom);
 };
 
@@ -279,17 +277,6 @@ uint64_t resolver::block_domain(const brix_block_domain_tag* dom, const frame& f
     return walk.size;
 }
 
-template <class Domain, class Type>
-const Domain* resolver::chosen_domain(const Type* type, const char* domain) {
-    for (const brix_list_tag* n = type->domains; n != nullptr; n = n->next) {
-        const auto* d = static_cast<const Domain*>(n->data);
-        if (domain == nullptr || (d->name != nullptr && strcmp(d->name, domain) == 0)) {
-            return d;
-        }
-    }
-    return nullptr;
-}
-
 template <class Domain> uint64_t resolver::domain_words(const std::string& key, const Domain* dom) {
     if (const auto it = sizes_.find(key); it != sizes_.end()) {
         return it->second;
@@ -311,11 +298,15 @@ map_node resolver::sub(const brix_list_tag* c, brix_offset_walk& walk, uint64_t 
     const auto* s = static_cast<const brix_system_tag*>(c->data);
     const char* domain = is_block ? b->domain : s->domain;
     const std::string suffix = is_block ? suffix_of(b->type) : suffix_of(s->type);
-    const std::string key = domain != nullptr ? suffix + " " + domain : suffix;
+    const std::string key = size_key(suffix, domain);
+    // The domain the instance stands for, by the models' rule.
     const brix_block_domain_tag* bd =
-        is_block ? chosen_domain<brix_block_domain_tag>(b->type, domain) : nullptr;
+        is_block ? &instance_domain<brix_block_domain_tag>(b->type->domains, b->type->name, domain)
+                 : nullptr;
     const brix_system_domain_tag* sd =
-        is_block ? nullptr : chosen_domain<brix_system_domain_tag>(s->type, domain);
+        is_block
+            ? nullptr
+            : &instance_domain<brix_system_domain_tag>(s->type->domains, s->type->name, domain);
     const uint64_t bytes = static_cast<uint64_t>(bd != nullptr ? bd->bytes : sd->bytes);
     const uint64_t size = bd != nullptr ? domain_words(key, bd) : domain_words(key, sd);
     const uint64_t span = brix_subsystem_words(size, bytes, d);
