@@ -210,32 +210,21 @@ map_node resolver::vreg(const brix_vregister_tag* v, const frame& f) {
     return n;
 }
 
-// Virtual registers sit in a memory of their block: their address follows from the
-// memory's, which may come later in the list.
+// Virtual registers sit in a memory of their block, which the grammar wants declared
+// before them: their address follows from the memory's.
 struct vreg_places {
     struct place {
         uint64_t address;
         uint64_t unit; // bytes of one location
     };
     std::unordered_map<std::string, place> memories;
-    std::vector<size_t> waiting; // indices of virtual registers whose memory is still to come
 
-    bool locate(map_node& v) const {
-        const auto it = memories.find(v.memory);
-        if (it == memories.end()) {
-            return false;
-        }
-        v.address = it->second.address + v.offset * it->second.unit;
-        return true;
-    }
-    // Takes in the node just appended to `out`.
-    void note(std::vector<map_node>& out) {
-        map_node& n = out.back();
+    void note(map_node& n) {
         if (n.kind == map_kind::memory) {
             memories.try_emplace(n.name, place{n.address, n.size / std::max<uint64_t>(n.words, 1)});
-            std::erase_if(waiting, [&](size_t i) { return locate(out[i]); });
-        } else if (n.kind == map_kind::vreg && n.placed && !locate(n)) {
-            waiting.push_back(out.size() - 1);
+        } else if (const auto it = memories.find(n.memory);
+                   n.kind == map_kind::vreg && n.placed && it != memories.end()) {
+            n.address = it->second.address + n.offset * it->second.unit;
         }
     }
 };
@@ -268,12 +257,9 @@ uint64_t resolver::block_domain(const brix_block_domain_tag* dom, const frame& f
         default:
             out.push_back(vreg(static_cast<const brix_vregister_tag*>(c->data), f));
         }
-        vregs.note(out);
-        if (vregs.waiting.empty()) {
-            hand_on(out, stream);
-        }
+        vregs.note(out.back());
+        hand_on(out, stream);
     }
-    hand_on(out, stream);
     return walk.size;
 }
 
