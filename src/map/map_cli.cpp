@@ -188,6 +188,17 @@ int write_failed(const std::string& name, int error) {
     return 1;
 }
 
+// The regular file being written, removed if the run ends before it is whole: the map is
+// resolved while its JSON is written, and a fatal error there exits from inside.
+std::string partial_output;
+
+void remove_partial_output() {
+    if (!partial_output.empty()) {
+        unlink(partial_output.c_str());
+        partial_output.clear();
+    }
+}
+
 // Writes an output whole or not at all: a failed write or close is an error, and the
 // regular file it was going to is removed (a device or pipe is left as it is).
 template <class Write> int write_output(const std::string& name, Write&& write) {
@@ -197,7 +208,10 @@ template <class Write> int write_output(const std::string& name, Write&& write) 
         return write_failed(name, errno);
     }
     struct stat st {};
-    const bool regular = !to_stdout && fstat(fileno(f), &st) == 0 && S_ISREG(st.st_mode);
+    if (!to_stdout && fstat(fileno(f), &st) == 0 && S_ISREG(st.st_mode)) {
+        partial_output = name;
+        atexit(remove_partial_output);
+    }
     errno = 0;
     write(f);
     int error = ferror(f) != 0 ? (errno != 0 ? errno : EIO) : 0;
@@ -205,11 +219,10 @@ template <class Write> int write_output(const std::string& name, Write&& write) 
         error = errno != 0 ? errno : EIO;
     }
     if (error == 0) {
+        partial_output.clear();
         return 0;
     }
-    if (regular) {
-        unlink(name.c_str());
-    }
+    remove_partial_output();
     return write_failed(name, error);
 }
 
