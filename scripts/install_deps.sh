@@ -2,9 +2,10 @@
 # Installs what the build and the tests need from Debian's packages, if missing.
 set -euo pipefail
 # groff-base and man-db check the manual page; dpkg-dev and file let cpack make the Debian
-# package with its dependencies, and lintian checks it; afl++ fuzzes.
+# package with its dependencies, and lintian checks it; afl++ fuzzes. python3-jsonschema
+# validates brixmap's JSON against its schema, pandoc renders its Markdown.
 pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev verilator groff-base man-db
-      dpkg-dev file lintian afl++)
+      dpkg-dev file lintian afl++ python3-jsonschema pandoc)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

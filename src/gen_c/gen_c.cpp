@@ -84,10 +84,6 @@ uint32_t top_words(uint32_t size) {
     return (size - 1) / top_level_domain_width + 1;
 }
 
-std::string size_key(const std::string& type_key, const char* domain) {
-    return domain != nullptr ? type_key + " " + domain : type_key;
-}
-
 bool visits(const char* domain_name, const char* wanted) {
     return wanted == nullptr || domain_name == nullptr || is_named(domain_name, wanted);
 }
@@ -305,18 +301,16 @@ void emit_register(const brix_register_tag* reg, c_buffers& b, const std::string
     const uint32_t d = static_cast<uint32_t>(domain->bytes);
     const uint32_t words = (static_cast<uint32_t>(reg->type->bytes) - 1) / d + 1;
     emit_size_macro(b, "Register", reg->name, suffix, uint64_t{words} * d);
-    walk.place(reg->offset, true);
-    const bool array = is_array(reg->array_size);
+    const brix_placement p =
+        brix_place(walk, reg->offset, true, reg->array_size, reg->increment, words);
     const std::string stride = reg->increment != nullptr
                                    ? "0x" + hex(to_dec(reg->increment))
                                    : "brx_size_of_" + std::string(reg->name) + "_in_" + suffix;
-    emit_addr_macro(b, register_addr, reg->name, suffix, array, walk.off, stride);
+    emit_addr_macro(b, register_addr, reg->name, suffix, is_array(reg->array_size), p.offset,
+                    stride);
     emit_register_access_macro(access::read, reg, b, suffix, domain->endian, words * d);
     emit_register_access_macro(access::write, reg, b, suffix, domain->endian, words * d);
     emit_register_fields(reg, b, suffix, names);
-    const uint64_t span =
-        array ? uint64_t(reg->array_size) * increment_or(reg->increment, words) : words;
-    walk.advance(span);
 }
 
 void emit_memory(const brix_memory_tag* mem, c_buffers& b, const std::string& suffix,
@@ -325,11 +319,11 @@ void emit_memory(const brix_memory_tag* mem, c_buffers& b, const std::string& su
     const uint32_t d = static_cast<uint32_t>(domain->bytes);
     const uint32_t words = ((m->bits - 1) / 8) / d + 1;
     emit_size_macro(b, "Memory", mem->name, suffix, m->size * words * d);
-    walk.place(mem->offset, true);
-    emit_addr_macro(b, memory_addr, mem->name, suffix, false, walk.off, "");
+    const brix_placement p = brix_place(walk, mem->offset, true, -1, nullptr,
+                                        uint64_t{words} * static_cast<uint32_t>(m->size));
+    emit_addr_macro(b, memory_addr, mem->name, suffix, false, p.offset, "");
     emit_memory_access_macro(access::read, mem, b, suffix, domain->endian, words * d);
     emit_memory_access_macro(access::write, mem, b, suffix, domain->endian, words * d);
-    walk.advance(uint64_t{words} * static_cast<uint32_t>(m->size));
 }
 
 // The domain that a top is seen through, and the width of its words.
@@ -428,19 +422,11 @@ void emit_block(const brix_block_type_tag* type, c_buffers& b, const char* domai
 // size in its own domain, times the words of this domain that one of its words spans.
 template <class Instance, class Domain>
 uint32_t instance_size(const Instance* inst, const std::unordered_map<std::string, uint32_t>& sizes,
-                       uint32_t u, const char* fatal) {
+                       uint32_t u) {
     const auto found = sizes.find(size_key(suffix_of(inst->type), inst->domain));
     uint32_t size = found != sizes.end() ? found->second : 0;
-    const Domain* own = nullptr;
-    for_each_domain<const Domain>(inst->type->domains, [&](const Domain* d) {
-        if (own == nullptr && (d->name == nullptr || is_named(d->name, inst->domain))) {
-            own = d;
-        }
-    });
-    if (own == nullptr) {
-        brix_error(fatal, inst->type->name, inst->domain != nullptr ? inst->domain : "");
-    }
-    const uint32_t w = static_cast<uint32_t>(own->bytes);
+    const auto w = static_cast<uint32_t>(
+        instance_domain<Domain>(inst->type->domains, inst->type->name, inst->domain).bytes);
     if (w > u) {
         size *= (w - 1) / u + 1;
     }
@@ -450,12 +436,11 @@ uint32_t instance_size(const Instance* inst, const std::unordered_map<std::strin
 template <class Instance>
 void emit_system_addr(const Instance* inst, c_buffers& b, const addr_macro& m,
                       const std::string& parent, c_offset_walk& walk, uint32_t size) {
-    walk.place(inst->offset, true);
-    const bool array = is_array(inst->array_size);
+    const brix_placement p =
+        brix_place(walk, inst->offset, true, inst->array_size, inst->increment, size);
     const std::string stride =
         inst->increment != nullptr ? std::string(inst->increment) : "0x" + hex(size);
-    emit_addr_macro(b, m, inst->name, parent, array, walk.off, stride);
-    walk.advance(array ? uint64_t(inst->array_size) * increment_or(inst->increment, size) : size);
+    emit_addr_macro(b, m, inst->name, parent, is_array(inst->array_size), p.offset, stride);
 }
 
 void emit_system_level_macros(const brix_system_type_tag* type, c_buffers& b, const char* domain) {
@@ -476,14 +461,12 @@ void emit_system_level_macros(const brix_system_type_tag* type, c_buffers& b, co
                 if (c->tag == BRIX_BLOCK) {
                     const auto* blk = static_cast<const brix_block_tag*>(c->data);
                     const uint32_t size = instance_size<brix_block_tag, brix_block_domain_tag>(
-                        blk, all_block_sizes, u,
-                        "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n");
+                        blk, all_block_sizes, u);
                     emit_system_addr(blk, b, block_addr, parent, walk, size);
                 } else if (c->tag == BRIX_SYSTEM) {
                     const auto* sys = static_cast<const brix_system_tag*>(c->data);
                     const uint32_t size = instance_size<brix_system_tag, brix_system_domain_tag>(
-                        sys, all_system_sizes, u,
-                        "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n");
+                        sys, all_system_sizes, u);
                     emit_system_addr(sys, b, subsystem_addr, parent, walk, size);
                 } else {
                     brix_error("Error: Invalid System Component found.\n");

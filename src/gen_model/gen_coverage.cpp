@@ -435,28 +435,20 @@ void emit_register_addr_points(const brix_register_tag* r, uint64_t d, brix_offs
     const brix_register_type_tag* t = r->type;
     raise(brix_largest_register_bytes, static_cast<uint32_t>(t->bytes));
     const uint64_t words = get_ceil(static_cast<uint64_t>(t->bytes), d);
-    if (is_named(r->offset, "none")) {
+    const brix_placement p = brix_place(walk, r->offset, true, r->array_size, r->increment, words);
+    if (p.unmapped || !addr_map_on(r->cvr_spec)) {
         return;
     }
-    walk.place(r->offset, true);
-    const bool covered = addr_map_on(r->cvr_spec);
     if (!is_array(r->array_size)) {
-        if (covered) {
-            emit_addr_point(
-                indent, prefix + r->name, [&] { emit_accessed_bin(indent + 1, walk.off, words); },
-                1);
-        }
-        walk.advance(words);
+        emit_addr_point(
+            indent, prefix + r->name, [&] { emit_accessed_bin(indent + 1, p.offset, words); }, 1);
         return;
     }
-    const uint64_t incr = increment_or(r->increment, words);
-    const auto count = static_cast<uint64_t>(r->array_size);
-    for (uint64_t i = 0; covered && i < count; ++i) {
+    for (uint64_t i = 0; i < p.count; ++i) {
         emit_addr_point(
             indent, prefix + r->name + "_" + std::to_string(i),
-            [&] { emit_accessed_bin(indent + 1, walk.off + i * incr, words); }, 1);
+            [&] { emit_accessed_bin(indent + 1, p.offset + i * p.increment, words); }, 1);
     }
-    walk.advance(count * incr);
 }
 
 void emit_memory_addr_points(const brix_memory_tag* m, uint64_t d, brix_offset_walk& walk,
@@ -468,49 +460,44 @@ void emit_memory_addr_points(const brix_memory_tag* m, uint64_t d, brix_offset_w
                   static_cast<int>(t->bits), t->name, static_cast<int>(d));
     }
     const uint64_t w = get_ceil(t->bits, d * 8);
-    if (is_named(m->offset, "none")) {
-        return;
-    }
-    walk.place(m->offset, true);
-    const uint64_t off = walk.off;
     const uint64_t size = t->size;
-    if (addr_map_on(m->cvr_spec)) {
-        emit_addr_point(
-            indent, m->name,
-            [&] {
-                if (w == 1) {
-                    at(indent + 1, C().am_first_location, off);
-                    at(indent + 1, C().am_last_location, off + size - 1);
-                } else {
-                    at(indent + 1, C().am_first_location_range, off, off + w - 1);
-                    at(indent + 1, C().am_last_location_range, off + (size - 1) * w,
-                       off + size * w - 1);
-                }
-                at(indent + 1, C().am_other_locations, off + w, off + (size - 1) * w - 1);
-            },
-            3);
-    }
     // The span is taken as a 32-bit product, sign-extended: the class and the constructor
     // part only for memories of more than 2^31 offsets.
     const auto low_product =
         static_cast<int32_t>(static_cast<uint32_t>(size) * static_cast<uint32_t>(w));
-    walk.advance(static_cast<uint64_t>(static_cast<int64_t>(low_product)));
+    const brix_placement p = brix_place(walk, m->offset, true, -1, nullptr,
+                                        static_cast<uint64_t>(static_cast<int64_t>(low_product)));
+    if (p.unmapped || !addr_map_on(m->cvr_spec)) {
+        return;
+    }
+    const uint64_t off = p.offset;
+    emit_addr_point(
+        indent, m->name,
+        [&] {
+            if (w == 1) {
+                at(indent + 1, C().am_first_location, off);
+                at(indent + 1, C().am_last_location, off + size - 1);
+            } else {
+                at(indent + 1, C().am_first_location_range, off, off + w - 1);
+                at(indent + 1, C().am_last_location_range, off + (size - 1) * w,
+                   off + size * w - 1);
+            }
+            at(indent + 1, C().am_other_locations, off + w, off + (size - 1) * w - 1);
+        },
+        3);
 }
 
 void emit_regfile_walk(const brix_regfile_tag* f, uint64_t d, brix_offset_walk& walk, int indent) {
     const uint64_t size = get_regfile_size_in_block_offsets(f->type, d);
-    walk.place(f->offset, false);
+    const brix_placement p = brix_place(walk, f->offset, false, f->array_size, f->increment, size);
     if (!is_array(f->array_size)) {
-        emit_regfile_addrmap_cvtpnts(f, walk.off, -1, static_cast<int>(d), indent);
-        walk.advance(size);
+        emit_regfile_addrmap_cvtpnts(f, p.offset, -1, static_cast<int>(d), indent);
         return;
     }
-    const uint64_t incr = increment_or(f->increment, size);
     for (int i = 0; i < f->array_size; ++i) {
-        emit_regfile_addrmap_cvtpnts(f, walk.off + static_cast<uint64_t>(i) * incr, i,
+        emit_regfile_addrmap_cvtpnts(f, p.offset + static_cast<uint64_t>(i) * p.increment, i,
                                      static_cast<int>(d), indent);
     }
-    walk.advance(static_cast<uint64_t>(f->array_size) * incr);
 }
 
 // The choice among several domains: `if`, then `else if`, each with its own body.

@@ -361,23 +361,21 @@ void emit_regfile_class(const brix_regfile_type_tag* rf, uint64_t d) {
     brix_offset_walk walk;
     for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
         const auto* r = static_cast<const brix_register_tag*>(n->data);
-        uint64_t span = register_words(r->type, d);
-        walk.place(r->offset, true);
+        const uint64_t words = register_words(r->type, d);
+        const brix_placement p =
+            brix_place(walk, r->offset, true, r->array_size, r->increment, words);
         const char* rights = rights_of(r->rw_flag);
         const int unmapped = unmapped_of(r->offset);
         if (!is_array(r->array_size)) {
-            brix_emit(L().regfile_reg_new, r->name, r->name, walk.off, rights, unmapped);
+            brix_emit(L().regfile_reg_new, r->name, r->name, p.offset, rights, unmapped);
             emit_register_fields_construction(r, names);
         } else {
-            const uint64_t incr = increment_or(r->increment, span);
-            span = static_cast<uint64_t>(r->array_size) * incr;
             brix_emit(L().foreach_head, r->name);
-            brix_emit(L().regfile_reg_array_new, r->name, r->name, walk.off, incr, rights,
+            brix_emit(L().regfile_reg_array_new, r->name, r->name, p.offset, p.increment, rights,
                       unmapped);
             emit_register_fields_construction(r, names);
             brix_emit(L().foreach_tail);
         }
-        walk.advance(span);
     }
     brix_emit(L().regfile_ctor_tail);
     brix_emit(L().regfile_class_tail, suffix);
@@ -407,11 +405,6 @@ const char* endian_word(const char* endian) {
         return "qvt_brx::BIG_FIFO";
     }
     return "qvt_brx::NO_ENDIAN";
-}
-
-// The key of a domain's size: the class suffix, and the domain's name when it has one.
-std::string size_key(const std::string& suffix, const char* domain) {
-    return domain != nullptr ? suffix + " " + domain : suffix;
 }
 
 // Head of a block's or system's constructor: the first domain goes to `super.new`, the
@@ -585,26 +578,22 @@ void emit_block_register(const brix_block_domain_tag* dom, const brix_register_t
     const uint64_t d = static_cast<uint64_t>(dom->bytes);
     const uint64_t words = register_words(r->type, d);
     check_no_shared_array(r);
-    walk.place(r->offset, true);
+    const brix_placement p = brix_place(walk, r->offset, true, r->array_size, r->increment, words);
     const char* rights = rights_of(r->rw_flag);
     const int unmapped = unmapped_of(r->offset);
-    uint64_t span = words;
     if (is_array(r->array_size)) {
-        const uint64_t incr = increment_or(r->increment, words);
-        span = static_cast<uint64_t>(r->array_size) * incr;
         brix_emit(L().foreach_head, r->name);
-        brix_emit(L().block_reg_array_new, r->name, r->name, walk.off, incr, domain_word(dom),
-                  rights, unmapped);
+        brix_emit(L().block_reg_array_new, r->name, r->name, p.offset, p.increment,
+                  domain_word(dom), rights, unmapped);
         emit_register_fields_construction(r, names);
         brix_emit(L().foreach_tail);
     } else if (seen_shared_register(shared, r)) {
-        brix_emit(L().block_obj_add_domain, r->name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_add_domain, r->name, p.offset, domain_word(dom), rights, unmapped);
     } else {
         const char* name = r->type->is_shared == 1 ? r->type->name : r->name;
-        brix_emit(L().block_obj_new, r->name, name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_new, r->name, name, p.offset, domain_word(dom), rights, unmapped);
         emit_register_fields_construction(r, names);
     }
-    walk.advance(span);
 }
 
 void emit_block_memory(const brix_block_domain_tag* dom, const brix_memory_tag* m,
@@ -616,34 +605,31 @@ void emit_block_memory(const brix_block_domain_tag* dom, const brix_memory_tag* 
         brix_warn("Warning: %d bits memory '%s' instantiated in %d bytes block.\n",
                   static_cast<int>(t->bits), t->name, static_cast<int>(d));
     }
-    walk.place(m->offset, true);
+    const brix_placement p =
+        brix_place(walk, m->offset, true, -1, nullptr, brix_memory_words(t, d));
     const char* rights = rights_of(m->rw_flag);
     const int unmapped = unmapped_of(m->offset);
     if (seen_shared_memory(shared, m)) {
-        brix_emit(L().block_obj_add_domain, m->name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_add_domain, m->name, p.offset, domain_word(dom), rights, unmapped);
     } else {
         const char* name = t->is_shared == 1 ? t->name : m->name;
-        brix_emit(L().block_obj_new, m->name, name, walk.off, domain_word(dom), rights, unmapped);
+        brix_emit(L().block_obj_new, m->name, name, p.offset, domain_word(dom), rights, unmapped);
     }
-    walk.advance(t->size * get_ceil(t->bits, d * 8));
 }
 
 void emit_block_regfile(const brix_block_domain_tag* dom, const brix_regfile_tag* f,
                         brix_offset_walk& walk) {
     const uint64_t size =
         get_regfile_size_in_block_offsets(f->type, static_cast<uint64_t>(dom->bytes));
-    walk.place(f->offset, false);
-    uint64_t span = size;
+    const brix_placement p = brix_place(walk, f->offset, false, f->array_size, f->increment, size);
     if (is_array(f->array_size)) {
-        const uint64_t incr = increment_or(f->increment, size);
-        span = static_cast<uint64_t>(f->array_size) * incr;
         brix_emit(L().foreach_head, f->name);
-        brix_emit(L().block_regfile_array_new, f->name, f->name, walk.off, incr, domain_word(dom));
+        brix_emit(L().block_regfile_array_new, f->name, f->name, p.offset, p.increment,
+                  domain_word(dom));
         brix_emit(L().foreach_tail);
     } else {
-        brix_emit(L().block_regfile_new, f->name, f->name, walk.off, domain_word(dom));
+        brix_emit(L().block_regfile_new, f->name, f->name, p.offset, domain_word(dom));
     }
-    walk.advance(span);
 }
 
 // Virtual registers are placed in their memory at run time and take no block offsets.
@@ -753,7 +739,6 @@ struct system_component {
     const char* type_name;
     const brix_list_tag* type_domains;
     const brix_str2int_map* sizes;
-    const char* invalid;
     const char* register_one;
     const char* register_array;
 };
@@ -771,7 +756,6 @@ system_component describe(const brix_list_tag* c) {
                 b->type->name,
                 b->type->domains,
                 &all_block_sizes,
-                "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n",
                 L().register_block,
                 L().register_block_array};
     }
@@ -786,20 +770,8 @@ system_component describe(const brix_list_tag* c) {
             s->type->name,
             s->type->domains,
             &all_system_sizes,
-            "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n",
             L().register_subsys,
             L().register_subsys_array};
-}
-
-// The interface width of the domain of its type that an instance stands for.
-template <class Domain> int32_t instance_domain_bytes(const system_component& c) {
-    for (const brix_list_tag* n = c.type_domains; n != nullptr; n = n->next) {
-        const auto* d = static_cast<const Domain*>(n->data);
-        if (d->name == nullptr || (c.domain != nullptr && strcmp(d->name, c.domain) == 0)) {
-            return d->bytes;
-        }
-    }
-    brix_error(c.invalid, c.type_name, c.domain != nullptr ? c.domain : "");
 }
 
 void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_list_tag* node,
@@ -808,13 +780,10 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
     const uint64_t size = static_cast<uint64_t>(
         get_str2int_map_value(*c.sizes, size_key(c.suffix, c.domain).c_str()));
     const auto bytes = static_cast<uint64_t>(
-        node->tag == BRIX_BLOCK ? instance_domain_bytes<brix_block_domain_tag>(c)
-                                : instance_domain_bytes<brix_system_domain_tag>(c));
-    const uint64_t b = static_cast<uint64_t>(sys_dom->bytes);
-    uint64_t span = size;
-    if (bytes > b) {
-        span = size * get_ceil(bytes, b);
-    }
+        node->tag == BRIX_BLOCK
+            ? instance_domain<brix_block_domain_tag>(c.type_domains, c.type_name, c.domain).bytes
+            : instance_domain<brix_system_domain_tag>(c.type_domains, c.type_name, c.domain).bytes);
+    const uint64_t span = brix_subsystem_words(size, bytes, static_cast<uint64_t>(sys_dom->bytes));
     const bool multi_domain = c.type_domains != nullptr && c.type_domains->next != nullptr;
     const std::string key = c.class_key + " " + c.name;
     const char* stored = nullptr;
@@ -822,9 +791,7 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
         stored = get_str2str_map_value(instantiated, key.c_str());
     }
     const bool first = stored == nullptr;
-    if (c.offset != nullptr) {
-        walk.place(c.offset, false);
-    }
+    const brix_placement p = brix_place(walk, c.offset, false, c.array_size, c.increment, span);
     const char* sys_domain = domain_word(sys_dom);
     const char* inst_domain = c.domain != nullptr ? c.domain : "";
     if (!is_array(c.array_size)) {
@@ -832,25 +799,22 @@ void emit_system_component(const brix_system_domain_tag* sys_dom, const brix_lis
             if (multi_domain) {
                 add_str2str_map_entry(instantiated, brix_strdup(key.c_str()), brix_strdup(c.name));
             }
-            brix_emit(L().sys_comp_new, c.name, c.name, walk.off);
+            brix_emit(L().sys_comp_new, c.name, c.name, p.offset);
         } else if (strcmp(stored, c.name) != 0) {
             brix_emit(L().sys_comp_same, c.name, stored);
         }
-        brix_emit(c.register_one, c.name, inst_domain, sys_domain, walk.off);
-        walk.advance(span);
+        brix_emit(c.register_one, c.name, inst_domain, sys_domain, p.offset);
         return;
     }
-    const uint64_t incr = increment_or(c.increment, span);
     brix_emit(L().foreach_head, c.name);
     if (first) {
         add_str2str_map_entry(instantiated, brix_strdup(key.c_str()), brix_strdup(c.name));
-        brix_emit(L().sys_comp_array_new, c.name, c.name, walk.off, incr);
+        brix_emit(L().sys_comp_array_new, c.name, c.name, p.offset, p.increment);
     } else if (strcmp(stored, c.name) != 0) {
         brix_emit(L().sys_comp_array_same, c.name, stored);
     }
-    brix_emit(c.register_array, c.name, inst_domain, sys_domain, walk.off, incr);
+    brix_emit(c.register_array, c.name, inst_domain, sys_domain, p.offset, p.increment);
     brix_emit(L().foreach_tail);
-    walk.advance(static_cast<uint64_t>(c.array_size) * incr);
 }
 
 void emit_system_constructor(brix_system_type_tag* type, bool backdoor) {

@@ -66,14 +66,34 @@ uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint
     for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
         const auto* r = static_cast<const brix_register_tag*>(n->data);
         raise(brix_largest_register_bytes, static_cast<uint32_t>(r->type->bytes));
-        const uint64_t words = get_ceil(static_cast<uint64_t>(r->type->bytes), bytes);
-        uint64_t span = words;
-        if (is_array(r->array_size)) {
-            check_no_shared_array(r);
-            span = static_cast<uint64_t>(r->array_size) * increment_or(r->increment, words);
-        }
-        walk.place(r->offset, true);
-        walk.advance(span);
+        check_no_shared_array(r);
+        brix_place(walk, r->offset, true, r->array_size, r->increment,
+                   get_ceil(static_cast<uint64_t>(r->type->bytes), bytes));
     }
     return walk.size;
+}
+
+template <class Pos>
+brix_placement brix_place(brix_basic_offset_walk<Pos>& walk, const char* offset, bool honour_none,
+                          int32_t array_size, const char* increment, uint64_t words) {
+    walk.place(offset, honour_none);
+    brix_placement p{walk.off, 1, words, walk.unmapped};
+    if (is_array(array_size)) {
+        p.count = static_cast<uint64_t>(array_size);
+        p.increment = increment_or(increment, words);
+    }
+    walk.advance(p.count * p.increment);
+    return p;
+}
+template brix_placement brix_place(brix_offset_walk&, const char*, bool, int32_t, const char*,
+                                   uint64_t);
+template brix_placement brix_place(brix_basic_offset_walk<uint32_t>&, const char*, bool, int32_t,
+                                   const char*, uint64_t);
+
+uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes) {
+    return t->size * get_ceil(t->bits, domain_bytes * 8);
+}
+
+uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes) {
+    return bytes > system_bytes ? size * get_ceil(bytes, system_bytes) : size;
 }

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 #include <strings.h>
+#include <type_traits>
 #include <vector>
 
 #include "driver/diag.hpp"
@@ -72,6 +73,25 @@ template <class Pos> struct brix_basic_offset_walk {
     }
 };
 using brix_offset_walk = brix_basic_offset_walk<uint64_t>;
+
+// One component's place in its list, in words of the domain.
+struct brix_placement {
+    uint64_t offset;    // of the first element
+    uint64_t count;     // elements: 1 for a scalar
+    uint64_t increment; // words from one element to the next; the span of a scalar
+    bool unmapped;      // `@none`: no address and no space
+};
+// Places a component whose one element takes `words` words and moves the walk past it. An
+// array steps by its written increment, else by `words`. Made for both walks of
+// brix_basic_offset_walk.
+template <class Pos>
+brix_placement brix_place(brix_basic_offset_walk<Pos>& walk, const char* offset, bool honour_none,
+                          int32_t array_size, const char* increment, uint64_t words);
+// Words one location of a memory takes in a domain of `domain_bytes`.
+uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes);
+// Words of a system domain that a block or system of `size` words in its own domain of
+// `bytes` takes in a system domain of `system_bytes`.
+uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes);
 
 // The offsets that a regfile's registers span in a domain of `bytes`.
 uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint64_t bytes);
@@ -162,6 +182,29 @@ template <class Domain, class F> void for_each_component(const brix_list_tag* do
 
 // An array of a shared register is an error.
 void check_no_shared_array(const brix_register_tag* r);
+
+// The key of a domain's size: the class suffix, and the domain's name when it has one.
+inline std::string size_key(const std::string& suffix, const char* domain) {
+    return domain != nullptr ? suffix + " " + domain : suffix;
+}
+
+// The domain of its type that a block or system instance stands for: the type's unnamed
+// domain, else the one the instance names. The grammar makes an instance of a type with
+// several domains name one; an instance that still finds none stops the run.
+template <class Domain>
+const Domain& instance_domain(const brix_list_tag* type_domains, const char* type_name,
+                              const char* domain) {
+    for (const brix_list_tag* n = type_domains; n != nullptr; n = n->next) {
+        const auto* d = static_cast<const Domain*>(n->data);
+        if (d->name == nullptr || (domain != nullptr && strcmp(d->name, domain) == 0)) {
+            return *d;
+        }
+    }
+    brix_error(std::is_same_v<Domain, brix_block_domain_tag>
+                   ? "Fatal Internal Error: Invalid block '%s' (domain '%s') found.\n"
+                   : "Fatal Internal Error: Invalid system '%s' (domain '%s') found.\n",
+               type_name, domain != nullptr ? domain : "");
+}
 
 inline int count_nodes(const brix_list_tag* list) {
     int n = 0;

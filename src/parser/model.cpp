@@ -1,6 +1,8 @@
 #include "parser/model.hpp"
 
 #include <cstring>
+#include <string>
+#include <unordered_set>
 
 brix_block_type_tag* all_block_types = nullptr;
 brix_system_type_tag* all_system_types = nullptr;
@@ -57,6 +59,17 @@ brix_cvr_spec_tag* get_cvr_spec(const char* text) {
     return spec;
 }
 
+brix_src_pos brix_here() {
+    // Hash lines name the same file many times over: keep one copy of each name, so that
+    // records can hold the pointer after the scanner's buffer has moved on.
+    static std::unordered_set<std::string> names;
+    static const std::string* last = nullptr;
+    if (last == nullptr || *last != brix_src_file_name) {
+        last = &*names.insert(brix_src_file_name).first;
+    }
+    return {last->c_str(), brix_src_file_linenum};
+}
+
 void initialize_constraint_defaults(brix_constraint_tag* c) {
     *c = {nullptr, nullptr, nullptr};
 }
@@ -108,10 +121,12 @@ void initialize_field_type_defaults(brix_field_type_tag* t) {
     *t = {};
     t->bits = 1;
     t->access = default_access_rw;
+    t->src = brix_here();
 }
 
 void initialize_field_defaults(brix_field_tag* f) {
     *f = {};
+    f->src = brix_here();
 }
 
 void initialize_register_type_defaults(brix_register_type_tag* t) {
@@ -120,22 +135,26 @@ void initialize_register_type_defaults(brix_register_type_tag* t) {
     t->left_to_right = -1;
     t->is_shared = -1;
     t->noise = brix_strdup("ro");
+    t->src = brix_here();
 }
 
 void initialize_register_defaults(brix_register_tag* r) {
     *r = {};
     r->array_size = -1;
+    r->src = brix_here();
 }
 
 void initialize_vregister_type_defaults(brix_vregister_type_tag* t) {
     *t = {};
     t->bytes = -1;
     t->left_to_right = -1;
+    t->src = brix_here();
 }
 
 void initialize_vregister_defaults(brix_vregister_tag* v) {
     *v = {};
     v->array_size = -1;
+    v->src = brix_here();
 }
 
 void initialize_mem_initial_defaults(brix_mem_initial* i) {
@@ -147,19 +166,23 @@ void initialize_memory_type_defaults(brix_memory_type_tag* t) {
     t->access = default_access_rw;
     t->noise = default_memory_noise_ro;
     t->is_shared = -1;
+    t->src = brix_here();
 }
 
 void initialize_memory_defaults(brix_memory_tag* m) {
     *m = {};
+    m->src = brix_here();
 }
 
 void initialize_regfile_type_defaults(brix_regfile_type_tag* t) {
     *t = {};
+    t->src = brix_here();
 }
 
 void initialize_regfile_defaults(brix_regfile_tag* r) {
     *r = {};
     r->array_size = -1;
+    r->src = brix_here();
 }
 
 void initialize_block_domain_defaults(brix_block_domain_tag* d) {
@@ -169,11 +192,13 @@ void initialize_block_domain_defaults(brix_block_domain_tag* d) {
 
 void initialize_block_type_defaults(brix_block_type_tag* t) {
     *t = {};
+    t->src = brix_here();
 }
 
 void initialize_block_defaults(brix_block_tag* b) {
     *b = {};
     b->array_size = -1;
+    b->src = brix_here();
 }
 
 void initialize_system_domain_defaults(brix_system_domain_tag* d) {
@@ -183,9 +208,11 @@ void initialize_system_domain_defaults(brix_system_domain_tag* d) {
 
 void initialize_system_type_defaults(brix_system_type_tag* t) {
     *t = {};
+    t->src = brix_here();
 }
 
 void initialize_system_defaults(brix_system_tag* s) {
     *s = {};
     s->array_size = -1;
+    s->src = brix_here();
 }

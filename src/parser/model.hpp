@@ -110,6 +110,12 @@ struct brix_mem_initial {
     char decrement;
 };
 
+// Where a declaration stands in the user's files, for outputs that point back at it.
+struct brix_src_pos {
+    const char* file; // null when the record was made outside a description
+    unsigned long long line;
+};
+
 struct brix_field_type_tag {
     char* name;
     uint32_t bits;
@@ -121,6 +127,7 @@ struct brix_field_type_tag {
     brix_cvr_spec_tag* cvr_spec;
     brix_enum_type* enum_type;
     brix_cvr_pnt* coverpoint;
+    brix_src_pos src;
 };
 
 struct brix_field_tag {
@@ -130,6 +137,7 @@ struct brix_field_tag {
     brix_field_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
     brix_cvr_spec_tag* cvr_used;
+    brix_src_pos src;
 };
 
 struct brix_register_type_tag {
@@ -147,6 +155,7 @@ struct brix_register_type_tag {
     brix_cvr_spec_tag* cvr_spec;
     brix_cvr_spec_tag* cvr_used;
     brix_attribute* attributes;
+    brix_src_pos src;
 };
 
 struct brix_register_tag {
@@ -158,6 +167,7 @@ struct brix_register_tag {
     char* rw_flag;
     brix_register_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_vregister_type_tag {
@@ -169,6 +179,7 @@ struct brix_vregister_type_tag {
     char* scope_prefix;
     brix_list_tag* crosses;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_vregister_tag {
@@ -180,6 +191,7 @@ struct brix_vregister_tag {
     char is_dynamic;
     brix_vregister_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_memory_type_tag {
@@ -196,6 +208,7 @@ struct brix_memory_type_tag {
     brix_cvr_spec_tag* cvr_spec;
     brix_cvr_spec_tag* cvr_used;
     brix_attribute* attributes;
+    brix_src_pos src;
 };
 
 struct brix_memory_tag {
@@ -205,6 +218,7 @@ struct brix_memory_tag {
     char* rw_flag;
     brix_memory_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_regfile_type_tag {
@@ -214,6 +228,7 @@ struct brix_regfile_type_tag {
     brix_doc* doc;
     char* scope_prefix;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_regfile_tag {
@@ -224,6 +239,7 @@ struct brix_regfile_tag {
     char* increment;
     brix_regfile_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
+    brix_src_pos src;
 };
 
 struct brix_block_domain_tag {
@@ -258,6 +274,7 @@ struct brix_block_type_tag {
     brix_block_type_tag* next; // link of all_block_types
     brix_cvr_spec_tag* cvr_used;
     brix_attribute* attributes;
+    brix_src_pos src;
 };
 
 struct brix_system_type_tag {
@@ -269,6 +286,7 @@ struct brix_system_type_tag {
     brix_cvr_spec_tag* cvr_used;
     brix_system_type_tag* next; // link of all_system_types
     brix_attribute* attributes;
+    brix_src_pos src;
 };
 
 // Filled only while the memory backdoor expands an instance.
@@ -284,6 +302,7 @@ struct brix_block_tag {
     brix_cvr_spec_tag* cvr_spec;
     brix_block_type_tag* type;
     brix_tmp_info_for_mem_vhdl_bkdr* tmp_info;
+    brix_src_pos src;
 };
 
 struct brix_system_tag {
@@ -296,12 +315,15 @@ struct brix_system_tag {
     brix_system_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
     brix_tmp_info_for_mem_vhdl_bkdr* tmp_info;
+    brix_src_pos src;
 };
 
 // Model roots: every completed block and system type, in order of completion.
 extern brix_block_type_tag* all_block_types;
 extern brix_system_type_tag* all_system_types;
 
+// The position the scanner has reached in the user's files.
+brix_src_pos brix_here();
 void initialize_constraint_defaults(brix_constraint_tag* c);
 void initialize_doc_defaults(brix_doc* d);
 void initialize_hdl_path_defaults(brix_hdl_path_tag* p);

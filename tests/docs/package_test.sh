@@ -36,7 +36,7 @@ grep -Eq '(^|, )libtcl8\.6( |,|$)' <<<"$depends" ||
 
 dpkg-deb -c "$deb" | awk '{ print $6 }' >"$work/contents"
 for f in ./usr/bin/brixgen ./usr/share/man/man1/brixgen.1.gz ./usr/share/doc/brixgen/guide.md \
-    ./usr/share/doc/brixgen/copyright \
+    ./usr/bin/brixmap ./usr/share/man/man1/brixmap.1.gz ./usr/share/doc/brixgen/copyright \
     ./usr/share/doc/brixgen/examples/uart/uart.brix; do
     grep -qx "$f" "$work/contents" || { echo "--- not in the package: $f"; fail=1; }
 done

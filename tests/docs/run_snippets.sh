@@ -1,18 +1,22 @@
 #!/usr/bin/env bash
-# Runs the descriptions of a Markdown document through brixgen, so that the document
-# cannot drift from the program.
+# Runs the descriptions of a Markdown document through brixgen and brixmap, so that the
+# document cannot drift from the programs.
 #
-#   run_snippets.sh <brixgen binary> <document.md>
+#   run_snippets.sh <brixgen binary> <document.md> [<brixmap binary>]
 #
 # Three kinds of fenced block take part; all others are prose:
 #   ```tcl file=NAME           a description file. Every run block after it sees it, under
 #                              NAME, until a later block of the same NAME replaces it.
-#   ```console run [status=N] [writes=A,B]
+#   ```console run [status=N] [writes=A,B] [in=DIR]
 #   $ brixgen ARGS             one run in a fresh folder holding the files so far. The
 #   LINES                      lines after the command are the whole standard error
 #                              (trailing empty lines aside), where a line "..." stands for
 #                              any number of lines; N is the exit status (0 if not given);
-#                              A,B are exactly the files that the run leaves.
+#                              A,B are exactly the files that the run leaves. With in=DIR
+#                              the run takes place in a copy of DIR (from the document's
+#                              folder) instead, e.g. a shipped example.
+#   $ brixmap ARGS             the same with brixmap; LINES are its standard output, then
+#                              its standard error.
 #   ```LANG from=NAME          lines that stand, one after the other, in the file NAME
 #                              that the last run wrote.
 # A file block that no run reads before it is replaced, or before the end, is an error.
@@ -20,6 +24,7 @@ set -u
 here=$(dirname "$(readlink -f "$0")")
 bin=$(readlink -f "$1")
 doc=$(readlink -f "$2")
+map_bin=$(readlink -f "${3:-/nonexistent}")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/blocks" "$work/files"
@@ -68,18 +73,30 @@ for head_file in "$work"/blocks/*.head; do
         runs=$((runs + 1))
         pending=()
         cmdline=$(head -n 1 "$b.body")
-        if [[ $cmdline != '$ brixgen '* ]]; then
-            echo "--- $where: a run block must start with '\$ brixgen'"
+        program=${cmdline#'$ '}
+        program=${program%% *}
+        if [[ $program != brixgen && $program != brixmap ]]; then
+            echo "--- $where: a run block must start with '\$ brixgen' or '\$ brixmap'"
             fail=1
             continue
         fi
         run="$work/run$runs"
-        cp -r "$work/files" "$run"
+        in=$(attr "$head" in)
+        if [ -n "$in" ]; then
+            cp -r "$(dirname "$doc")/$in" "$run"
+        else
+            cp -r "$work/files" "$run"
+        fi
         (cd "$run" && find . -type f | sort) >"$work/inputs"
         tail -n +2 "$b.body" >"$work/want_err"
-        eval "set -- ${cmdline#'$ brixgen '}"
-        (cd "$run" && exec -a brixgen "$bin" "$@" </dev/null >"$work/out" 2>"$work/err")
+        eval "set -- ${cmdline#"\$ $program "}"
+        exe=$bin
+        [ $program = brixmap ] && exe=$map_bin
+        (cd "$run" && exec -a $program "$exe" "$@" </dev/null >"$work/out" 2>"$work/err")
         status=$?
+        # brixmap's findings stand on the standard output, its summary on the error stream.
+        [ $program = brixmap ] && cat "$work/out" "$work/err" >"$work/both" &&
+            mv "$work/both" "$work/err"
         want_status=$(attr "$head" status)
         if [ "$status" != "${want_status:-0}" ]; then
             echo "--- $where: status $status, expected ${want_status:-0}"

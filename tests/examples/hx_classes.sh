@@ -19,6 +19,8 @@ classes() {
 failed=0
 count=0
 for ex in "$root"/examples/*/; do
+    # An example of mistakes has no model worth comparing.
+    [ -f "$ex/brixgen.args" ] || continue
     name=$(basename "$ex")
     for cover in none baf; do
         for lang in sv hx; do

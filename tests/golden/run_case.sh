@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs one golden case and compares everything it leaves byte for byte.
 #
-#   run_case.sh <brixgen binary> <case folder>
+#   run_case.sh <program> <case folder>
 #
 # A case folder holds `cmd` (the arguments after the program name, as shell words), the
 # input files, and `expected/` with `stdout`, `stderr`, `status` and, under `files/`,
@@ -27,7 +27,7 @@ eval "set -- $(cat "$case_dir/cmd")"
 # Files of an earlier process with the same id may lie in /tmp: only newer ones count.
 touch "$work/started"
 # argv[0] is the bare program name so that getopt's own lines are stable.
-(cd "$work/run" && exec -a brixgen "$bin" "$@" </dev/null >"$work/stdout" 2>"$work/stderr") &
+(cd "$work/run" && exec -a "$(basename "$bin")" "$bin" "$@" </dev/null >"$work/stdout" 2>"$work/stderr") &
 pid=$!
 wait $pid
 status=$?
