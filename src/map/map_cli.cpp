@@ -20,7 +20,9 @@ namespace {
 
 const char* const usage_text =
     "usage: brixmap check -t TOP [-I DIR1:...:DIRN] [-b] [-c b|a|f] [--werror] DESCRIPTION\n"
-    "       brixmap json|md -t TOP [-I DIR1:...:DIRN] [-o FILE] DESCRIPTION\n"
+    "       brixmap json|md|c -t TOP [-I DIR1:...:DIRN] [-o FILE] DESCRIPTION\n"
+    "       brixmap ipxact -t TOP [-I DIR1:...:DIRN] [-o FILE] [--vendor V] [--library L]\n"
+    "                      [--name N] [--version V] DESCRIPTION\n"
     "       brixmap --help | --version\n";
 
 const char* const help_text =
@@ -29,6 +31,8 @@ const char* const help_text =
     "  check      report mistakes of the description, one finding a line, on stdout\n"
     "  json       write the resolved register map as JSON (default file TOP.json)\n"
     "  md         write a Markdown reference of the map (default file TOP.md)\n"
+    "  ipxact     write an IP-XACT (IEEE 1685-2014) component (default file TOP.xml)\n"
+    "  c          write a C header of addresses and fields (default file TOP.h)\n"
     "\n"
     "Options:\n"
     "  -t TOP     the top-level block or system\n"
@@ -36,7 +40,9 @@ const char* const help_text =
     "  -o FILE    output file; '-' is standard output\n"
     "  -b         check for a run with backdoor classes (brixgen -b)\n"
     "  -c LETTERS check for a run with these coverage models (brixgen -c)\n"
-    "  --werror   warnings count as errors\n";
+    "  --werror   warnings count as errors\n"
+    "  --vendor, --library, --name, --version\n"
+    "             the IP-XACT component's identity (default local, brix, TOP, 1.0)\n";
 
 [[noreturn]] void usage_error(const std::string& message) {
     fprintf(stderr, "brixmap: %s\n%s", message.c_str(), usage_text);
@@ -49,6 +55,7 @@ struct map_options {
     const char* output = nullptr;
     const char* description = nullptr;
     map_check_options check;
+    ipxact_vlnv vlnv;
 };
 
 void add_include_dir(const char* value) {
@@ -84,6 +91,18 @@ const char* value_of(int argc, char** argv, int& i) {
     return argv[++i];
 }
 
+// The option that names a part of the IP-XACT identity, if `arg` is one.
+std::string* vlnv_part(map_options& o, std::string_view arg) {
+    if (o.command != "ipxact") {
+        return nullptr;
+    }
+    return arg == "--vendor"    ? &o.vlnv.vendor
+           : arg == "--library" ? &o.vlnv.library
+           : arg == "--name"    ? &o.vlnv.name
+           : arg == "--version" ? &o.vlnv.version
+                                : nullptr;
+}
+
 void read_option(int argc, char** argv, int& i, map_options& o) {
     const std::string_view arg = argv[i];
     const bool check = o.command == "check";
@@ -104,6 +123,8 @@ void read_option(int argc, char** argv, int& i, map_options& o) {
         o.check.field_values = brix_cvr_field_vals == 1;
     } else if (arg == "--werror" && check) {
         o.check.werror = true;
+    } else if (std::string* part = vlnv_part(o, arg)) {
+        *part = value_of(argc, argv, i);
     } else if (arg.size() > 1 && arg[0] == '-') {
         usage_error("unknown option '" + std::string(arg) + "' for " + o.command);
     } else if (o.description != nullptr) {
@@ -127,7 +148,7 @@ map_options read_command_line(int argc, char** argv) {
         printf("brixmap %s\n", BRIX_VERSION);
         exit(0);
     }
-    if (first != "check" && first != "json" && first != "md") {
+    if (first != "check" && first != "json" && first != "md" && first != "ipxact" && first != "c") {
         usage_error("unknown command '" + std::string(first) + "'");
     }
     map_options o;
@@ -218,8 +239,22 @@ int brixmap_main(int argc, char** argv) {
     if (o.command == "check") {
         return run_check(map, o.check);
     }
-    const bool json = o.command == "json";
-    const std::string name =
-        o.output != nullptr ? o.output : std::string(o.top) + (json ? ".json" : ".md");
-    return write_output(json ? map_json(map) : map_markdown(map), name);
+    map_written out;
+    std::string extension = "." + o.command;
+    if (o.command == "json") {
+        out.text = map_json(map);
+    } else if (o.command == "md") {
+        out.text = map_markdown(map);
+    } else if (o.command == "ipxact") {
+        out.text = map_ipxact(map, o.vlnv);
+        extension = ".xml";
+    } else {
+        out = map_c_header(map);
+        extension = ".h";
+    }
+    if (!out.error.empty()) {
+        fprintf(stderr, "brixmap: %s\n", out.error.c_str());
+        return 1;
+    }
+    return write_output(out.text, o.output != nullptr ? o.output : o.top + extension);
 }
