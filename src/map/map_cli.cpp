@@ -20,7 +20,7 @@ namespace {
 
 const char* const usage_text =
     "usage: brixmap check -t TOP [-I DIR1:...:DIRN] [-b] [-c b|a|f] [--werror] DESCRIPTION\n"
-    "       brixmap json|md|c -t TOP [-I DIR1:...:DIRN] [-o FILE] DESCRIPTION\n"
+    "       brixmap json|md|html|c -t TOP [-I DIR1:...:DIRN] [-o FILE] DESCRIPTION\n"
     "       brixmap ipxact -t TOP [-I DIR1:...:DIRN] [-o FILE] [--vendor V] [--library L]\n"
     "                      [--name N] [--version V] DESCRIPTION\n"
     "       brixmap --help | --version\n";
@@ -31,6 +31,7 @@ const char* const help_text =
     "  check      report mistakes of the description, one finding a line, on stdout\n"
     "  json       write the resolved register map as JSON (default file TOP.json)\n"
     "  md         write a Markdown reference of the map (default file TOP.md)\n"
+    "  html       write a self-contained HTML page of the map (default file TOP.html)\n"
     "  ipxact     write an IP-XACT (IEEE 1685-2014) component (default file TOP.xml)\n"
     "  c          write a C header of addresses and fields (default file TOP.h)\n"
     "\n"
@@ -148,7 +149,8 @@ map_options read_command_line(int argc, char** argv) {
         printf("brixmap %s\n", BRIX_VERSION);
         exit(0);
     }
-    if (first != "check" && first != "json" && first != "md" && first != "ipxact" && first != "c") {
+    if (first != "check" && first != "json" && first != "md" && first != "html" &&
+        first != "ipxact" && first != "c") {
         usage_error("unknown command '" + std::string(first) + "'");
     }
     map_options o;
@@ -245,6 +247,8 @@ int brixmap_main(int argc, char** argv) {
         out.text = map_json(map);
     } else if (o.command == "md") {
         out.text = map_markdown(map);
+    } else if (o.command == "html") {
+        out.text = map_html(map);
     } else if (o.command == "ipxact") {
         out.text = map_ipxact(map, o.vlnv);
         extension = ".xml";

@@ -35,6 +35,9 @@ bool is_reserved(const map_field& f);
 std::string hex_text(uint64_t v); // 0x2A
 uint64_t field_mask(const map_field& f);
 
+// A self-contained HTML page of the map: navigation, search, a diagram per register.
+std::string map_html(const resolved_map& map);
+
 // The identity of the IP-XACT component; empty parts take their defaults.
 struct ipxact_vlnv {
     std::string vendor;
