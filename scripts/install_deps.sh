@@ -3,9 +3,12 @@
 set -euo pipefail
 # groff-base and man-db check the manual page; dpkg-dev and file let cpack make the Debian
 # package with its dependencies, and lintian checks it; afl++ fuzzes. python3-jsonschema
-# validates brixmap's JSON against its schema, pandoc renders its Markdown.
+# validates brixmap's JSON against its schema, pandoc renders its Markdown; gcc compiles its
+# C headers, xmllint (libxml2-utils) validates its IP-XACT; chromium with its driver and
+# python3-selenium open its HTML pages.
 pkgs=(cmake g++ make tcl-dev flex bison libgtest-dev libgmock-dev verilator groff-base man-db
-      dpkg-dev file lintian afl++ python3-jsonschema pandoc)
+      dpkg-dev file lintian afl++ python3-jsonschema pandoc gcc libxml2-utils chromium
+      chromium-driver python3-selenium)
 missing=()
 for p in "${pkgs[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -132,36 +132,6 @@ void check_field_overlap(findings& out, const map_node& n) {
     }
 }
 
-// A number of the description, or nothing when it holds digits of no known value (x, z).
-std::optional<uint64_t> number_of(const std::string& text) {
-    unsigned radix = 10;
-    std::string_view digits = text;
-    if (const size_t q = text.find('\''); q != std::string::npos && q + 1 < text.size()) {
-        const char r = static_cast<char>(tolower(text[q + 1]));
-        radix = r == 'h' ? 16 : r == 'b' ? 2 : r == 'o' ? 8 : r == 'd' ? 10 : 0;
-        digits = std::string_view(text).substr(q + 2);
-    } else if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
-        radix = 16;
-        digits = std::string_view(text).substr(2);
-    }
-    uint64_t value = 0;
-    bool any = false;
-    for (const char c : digits) {
-        if (c == '_') {
-            continue;
-        }
-        const int d = isdigit(static_cast<unsigned char>(c))    ? c - '0'
-                      : isxdigit(static_cast<unsigned char>(c)) ? tolower(c) - 'a' + 10
-                                                                : 99;
-        if (radix == 0 || d >= static_cast<int>(radix) || value > (UINT64_MAX - d) / radix) {
-            return std::nullopt;
-        }
-        value = value * radix + static_cast<uint64_t>(d);
-        any = true;
-    }
-    return any ? std::optional<uint64_t>(value) : std::nullopt;
-}
-
 bool fits(uint64_t value, uint64_t width) {
     return width >= 64 || value >> width == 0;
 }

@@ -21,7 +21,9 @@ namespace {
 
 const char* const usage_text =
     "usage: brixmap check -t TOP [-I DIR1:...:DIRN] [-b] [-c b|a|f] [-q] [--werror] DESCRIPTION\n"
-    "       brixmap json|md -t TOP [-I DIR1:...:DIRN] [-o FILE] [-q] DESCRIPTION\n"
+    "       brixmap json|md|html|c -t TOP [-I DIR1:...:DIRN] [-o FILE] [-q] DESCRIPTION\n"
+    "       brixmap ipxact -t TOP [-I DIR1:...:DIRN] [-o FILE] [-q] [--vendor V] [--library L]\n"
+    "                      [--name N] [--version V] DESCRIPTION\n"
     "       brixmap --help | --version\n";
 
 const char* const help_text =
@@ -30,6 +32,9 @@ const char* const help_text =
     "  check      report mistakes of the description, one finding a line, on stdout\n"
     "  json       write the resolved register map as JSON (default file TOP.json)\n"
     "  md         write a Markdown reference of the map (default file TOP.md)\n"
+    "  html       write a self-contained HTML page of the map (default file TOP.html)\n"
+    "  ipxact     write an IP-XACT (IEEE 1685-2014) component (default file TOP.xml)\n"
+    "  c          write a C header of addresses and fields (default file TOP.h)\n"
     "\n"
     "Options:\n"
     "  -t TOP     the top-level block or system\n"
@@ -38,7 +43,9 @@ const char* const help_text =
     "  -b         check for a run with backdoor classes (brixgen -b)\n"
     "  -c LETTERS check for a run with these coverage models (brixgen -c)\n"
     "  -q         no warnings from reading the description\n"
-    "  --werror   warnings count as errors\n";
+    "  --werror   warnings count as errors\n"
+    "  --vendor, --library, --name, --version\n"
+    "             the IP-XACT component's identity (default local, brix, TOP, 1.0)\n";
 
 [[noreturn]] void usage_error(const std::string& message) {
     fprintf(stderr, "brixmap: %s\n%s", message.c_str(), usage_text);
@@ -51,6 +58,7 @@ struct map_options {
     const char* output = nullptr;
     const char* description = nullptr;
     map_check_options check;
+    ipxact_vlnv vlnv;
 };
 
 void add_include_dir(const char* value) {
@@ -86,6 +94,18 @@ const char* value_of(int argc, char** argv, int& i) {
     return argv[++i];
 }
 
+// The option that names a part of the IP-XACT identity, if `arg` is one.
+std::string* vlnv_part(map_options& o, std::string_view arg) {
+    if (o.command != "ipxact") {
+        return nullptr;
+    }
+    return arg == "--vendor"    ? &o.vlnv.vendor
+           : arg == "--library" ? &o.vlnv.library
+           : arg == "--name"    ? &o.vlnv.name
+           : arg == "--version" ? &o.vlnv.version
+                                : nullptr;
+}
+
 void read_option(int argc, char** argv, int& i, map_options& o) {
     const std::string_view arg = argv[i];
     const bool check = o.command == "check";
@@ -108,6 +128,8 @@ void read_option(int argc, char** argv, int& i, map_options& o) {
         brix_quiet_mode = 1;
     } else if (arg == "--werror" && check) {
         o.check.werror = true;
+    } else if (std::string* part = vlnv_part(o, arg)) {
+        *part = value_of(argc, argv, i);
     } else if (arg.size() > 1 && arg[0] == '-') {
         usage_error("unknown option '" + std::string(arg) + "' for " + o.command);
     } else if (o.description != nullptr) {
@@ -131,7 +153,8 @@ map_options read_command_line(int argc, char** argv) {
         printf("brixmap %s\n", BRIX_VERSION);
         exit(0);
     }
-    if (first != "check" && first != "json" && first != "md") {
+    if (first != "check" && first != "json" && first != "md" && first != "html" &&
+        first != "ipxact" && first != "c") {
         usage_error("unknown command '" + std::string(first) + "'");
     }
     map_options o;
@@ -252,5 +275,24 @@ int brixmap_main(int argc, char** argv) {
     if (o.command == "check") {
         return run_check(map, o.check);
     }
-    return write_output(name, [&](FILE* f) { map_markdown(map, f); });
+    if (o.command == "md") {
+        return write_output(name, [&](FILE* f) { map_markdown(map, f); });
+    }
+    std::string extension = "." + o.command;
+    map_written out;
+    if (o.command == "html") {
+        out.text = map_html(map);
+    } else if (o.command == "ipxact") {
+        out.text = map_ipxact(map, o.vlnv);
+        extension = ".xml";
+    } else {
+        out = map_c_header(map);
+        extension = ".h";
+    }
+    if (!out.error.empty()) {
+        fprintf(stderr, "brixmap: %s\n", out.error.c_str());
+        return 1;
+    }
+    return write_output(o.output != nullptr ? o.output : std::string(o.top) + extension,
+                        [&](FILE* f) { fwrite(out.text.data(), 1, out.text.size(), f); });
 }

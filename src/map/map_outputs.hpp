@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <optional>
 #include <string>
 
 #include "map/resolved_map.hpp"
@@ -44,3 +45,35 @@ struct map_check_result {
     int notes = 0;
 };
 map_check_result map_check(const resolved_map& map, const map_check_options& options);
+
+// ---- values every output reads the same way ----
+// A number as the description writes it (42, 0x2A, 'h2A), or nothing when it holds digits
+// of no known value (x, z).
+std::optional<uint64_t> number_of(const std::string& text);
+// A field's hard reset as a number: 0 when none is written, nothing when it is not known.
+std::optional<uint64_t> reset_value(const map_field& f);
+// `unused` and `reserved` fields are the gaps of a register, not fields of their own.
+bool is_reserved(const map_field& f);
+std::string hex_text(uint64_t v); // 0x2A
+uint64_t field_mask(const map_field& f);
+
+// A self-contained HTML page of the map: navigation, search, a diagram per register.
+std::string map_html(const resolved_map& map);
+
+// The identity of the IP-XACT component; empty parts take their defaults.
+struct ipxact_vlnv {
+    std::string vendor;
+    std::string library;
+    std::string name;
+    std::string version;
+};
+// An IEEE 1685-2014 component with one memory map per domain.
+std::string map_ipxact(const resolved_map& map, const ipxact_vlnv& vlnv);
+
+// An output that can fail on the map: `error` set means nothing is to be written.
+struct map_written {
+    std::string text;
+    std::string error;
+};
+// A C header of addresses and field macros; macro names that two paths share are an error.
+map_written map_c_header(const resolved_map& map);

@@ -12,12 +12,13 @@ import json
 import pathlib
 import re
 import shlex
-import shutil
 import subprocess
 import sys
 import tempfile
 
 import jsonschema
+
+from map_runs import copy_case, finish, map_args, model_builds, runs
 
 BRIXGEN, BRIXMAP = (str(pathlib.Path(a).resolve()) for a in sys.argv[1:3])
 SRC = pathlib.Path(sys.argv[3]).resolve()
@@ -79,40 +80,16 @@ def compare(doc, sv, label):
     return checked, errors
 
 
-def runs():
-    """(label, folder, arguments without -l) of every run that should give a model."""
-    for args in sorted(SRC.glob("examples/*/brixgen.args")):
-        yield str(args.parent.relative_to(SRC)), args.parent, shlex.split(args.read_text())
-    for cmd in sorted(SRC.glob("tests/golden/*/*/cmd")):
-        files = cmd.parent / "expected" / "files"
-        if cmd.parent.parent.name.startswith("map_") or not files.is_dir():
-            continue
-        if not any(files.glob("brx_*.sv")) and not any(files.glob("brx_*.hxs")):
-            continue
-        yield str(cmd.parent.relative_to(SRC)), cmd.parent, shlex.split(cmd.read_text())
-
-
 def main():
     schema = json.loads((SRC / "docs/brixmap.schema.json").read_text())
     validator = jsonschema.Draft202012Validator(schema)
     total, failures, cases = 0, [], 0
-    for label, folder, args in runs():
-        keep, i = [], 0
-        while i < len(args):  # the options that decide the model's offsets
-            if args[i] in ("-t", "-I"):
-                keep += args[i:i + 2]
-                i += 2
-            elif args[i].startswith("-"):
-                i += 2 if args[i] in ("-l", "-o", "-c", "-d") else 1
-            else:
-                keep.append(args[i])
-                i += 1
+    for label, folder, args in runs(SRC, with_data=True):
+        keep = map_args(args)
         with tempfile.TemporaryDirectory() as tmp:
             work = pathlib.Path(tmp) / "run"
-            shutil.copytree(folder, work, ignore=shutil.ignore_patterns("expected", "cmd"))
-            gen = subprocess.run([BRIXGEN, "-l", "sv", "-q", "-o", "model"] + keep, cwd=work,
-                                 capture_output=True)
-            if gen.returncode != 0:
+            copy_case(folder, work)
+            if not model_builds(BRIXGEN, work, keep):
                 continue
             out = subprocess.run([BRIXMAP, "json", "-o", "-"] + keep, cwd=work,
                                  capture_output=True, text=True)
@@ -138,10 +115,8 @@ def main():
         want = (folder / "expected" / "stderr").read_text()
         if out.returncode != 1 or out.stderr != want or out.stdout:
             failures.append(f"{case}: brixmap gave status {out.returncode}, {out.stderr!r}")
-    print(f"{cases} descriptions, {total} offsets compared, {len(REFUSED)} refused alike")
-    for f in failures:
-        print(f)
-    return 1 if failures or cases == 0 else 0
+    return finish(f"{cases} descriptions, {total} offsets compared, {len(REFUSED)} refused alike",
+                  failures, cases > 0)
 
 
 sys.exit(main())
