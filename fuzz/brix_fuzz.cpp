@@ -9,6 +9,7 @@
 // exercises both. Outputs are written into the working directory.
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
+#include "driver/room.hpp"
 #include "expand/expand.hpp"
 #include "gen_hx/gen_hx.hpp"
 #include "gen_plan/gen_plan.hpp"
@@ -67,7 +68,7 @@ int run_whole(const char* path, const std::string& text) {
         argv.push_back(w.data());
     }
     argv.push_back(nullptr);
-    return brix_main(static_cast<int>(words.size()), argv.data());
+    return brix_run_with_room(brix_main, static_cast<int>(words.size()), argv.data());
 }
 
 // The last system type, else the last block type: a top the description can have.

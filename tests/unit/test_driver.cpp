@@ -1,6 +1,7 @@
 // Helpers of the run driver and the life of the temporary file.
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
+#include "driver/room.hpp"
 #include "expand/expand.hpp"
 
 #include <gtest/gtest.h>
@@ -77,6 +78,25 @@ TEST(DriverDeathTest, PlantedTemporaryNameIsLeftAlone) {
     EXPECT_EQ(slurp(target), "keep");
     unlink(link.c_str());
     unlink(target.c_str());
+}
+
+volatile bool stop_recursing = false;
+
+int recurse_without_end(int depth, char**) {
+    volatile char frame[1 << 16];
+    frame[0] = static_cast<char>(depth);
+    return stop_recursing ? 0 : recurse_without_end(depth + 1, nullptr) + frame[0];
+}
+
+// A run that overflows even its own big stack says so and takes its temporary file along.
+TEST(DriverDeathTest, StackOverflowEndsWithAWordAndNoTemporaryFile) {
+    snprintf(pure_brix_file, sizeof pure_brix_file, "/tmp/brix_unit_deep_%d", getpid());
+    std::ofstream(pure_brix_file) << "pure";
+    EXPECT_EXIT(brix_run_with_room(recurse_without_end, 0, nullptr), testing::ExitedWithCode(1),
+                "^Error: The description nests too deeply: out of stack space.\n$");
+    EXPECT_NE(access(pure_brix_file, F_OK), 0);
+    unlink(pure_brix_file);
+    pure_brix_file[0] = '\0';
 }
 
 } // namespace
