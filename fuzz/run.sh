@@ -37,7 +37,7 @@ mkdir -p "$out/work"
 started=$(mktemp)
 export AFL_SKIP_CPUFREQ=1 AFL_I_DONT_CARE_ABOUT_MISSING_CRASHES=1 AFL_NO_UI=1 AFL_NO_AFFINITY=1
 export AFL_SKIP_CRASHES=0 AFL_NO_STARTUP_CALIBRATION=1
-export ASAN_OPTIONS=abort_on_error=1:symbolize=0:detect_leaks=0:allocator_may_return_null=1
+export ASAN_OPTIONS=abort_on_error=1:symbolize=0:detect_leaks=0:allocator_may_return_null=1:max_allocation_size_mb=1024
 export UBSAN_OPTIONS=halt_on_error=1:abort_on_error=1:print_stacktrace=1
 (cd "$out/work" && afl-fuzz -i "$corpus" -o "$out" -x "$dict" -t 10000 -m none -s 1 \
     -V "$seconds" -- "$build/fuzz/brix_fuzz" "$target" @@ >"$out/afl.log" 2>&1) || {

@@ -1,5 +1,6 @@
 #include "driver/driver.hpp"
+#include "driver/room.hpp"
 
 int main(int argc, char** argv) {
-    return brix_main(argc, argv);
+    return brix_run_with_room(brix_main, argc, argv);
 }

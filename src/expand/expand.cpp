@@ -26,6 +26,7 @@ char* user_ppwd = nullptr;
 brix_str2str_map all_procs_location_info;
 brix_str2int_map all_purebrix_cmds;
 char* brix_inc_dirs = nullptr;
+void (*brix_tcl_setup_hook)(Tcl_Interp* interp) = nullptr;
 
 namespace {
 
@@ -161,6 +162,9 @@ void setup_interpreter() {
     Tcl_CreateCommand(brixgen_interp, "__brix_parse_info_frame_level_info__",
                       brix_parse_info_frame_level_info, nullptr, nullptr);
     brix_clear_line_cache();
+    if (brix_tcl_setup_hook != nullptr) {
+        brix_tcl_setup_hook(brixgen_interp);
+    }
 }
 
 } // namespace

@@ -29,6 +29,10 @@ extern char* user_ppwd;
 extern brix_str2str_map all_procs_location_info;
 extern brix_str2int_map all_purebrix_cmds;
 
+// Called on the interpreter once it is set up, before the description runs, by a driver
+// that must bound what a script may do (the fuzzer); null in brixgen.
+extern void (*brix_tcl_setup_hook)(Tcl_Interp* interp);
+
 // Evaluates one file of the description; TCL_OK or TCL_ERROR.
 int execute_brix_file(const char* path);
 int BRIX_source(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);

@@ -157,6 +157,18 @@ expect_files "brx_top.sv d.brix "
 expect_tmp 0
 end_case
 
+# Brackets nested 100,000 deep, built at run time and parsed by Tcl, which recurses once
+# per level: the run has the stack for it.
+new_case brackets_built_100000_deep
+printf '%sset s "[string repeat {[list } 100000]x[string repeat {]} 100000]"\nset c [info complete $s]\n' \
+    "$valid" >top.brix
+run -q -l sv -t top top.brix
+expect_status 0
+expect_stderr ""
+expect_files "brx_top.sv top.brix "
+expect_tmp 0
+end_case
+
 new_case ten_thousand_nested_sources
 printf 'incr n\nif {$n < 10000} {\n    source self.brix\n}\n' >self.brix
 printf 'set n 0\nsource self.brix\n' >top.brix

@@ -1,6 +1,7 @@
 // Helpers of the run driver and the life of the temporary file.
 #include "driver/diag.hpp"
 #include "driver/driver.hpp"
+#include "driver/room.hpp"
 #include "expand/expand.hpp"
 #include "expand_harness.hpp"
 
@@ -111,6 +112,25 @@ TEST(Driver, VanishedPureFileCannotBeOpened) {
     ASSERT_EQ(text.size(), head.size() + 14 + tail.size()) << text;
     EXPECT_EQ(text.substr(0, head.size()), head);
     EXPECT_EQ(text.substr(head.size() + 14), tail);
+}
+
+volatile bool stop_recursing = false;
+
+int recurse_without_end(int depth, char**) {
+    volatile char frame[1 << 16];
+    frame[0] = static_cast<char>(depth);
+    return stop_recursing ? 0 : recurse_without_end(depth + 1, nullptr) + frame[0];
+}
+
+// A run that overflows even its own big stack says so and takes its temporary file along.
+TEST(DriverDeathTest, StackOverflowEndsWithAWordAndNoTemporaryFile) {
+    snprintf(pure_brix_file, sizeof pure_brix_file, "/tmp/brix_unit_deep_%d", getpid());
+    std::ofstream(pure_brix_file) << "pure";
+    EXPECT_EXIT(brix_run_with_room(recurse_without_end, 0, nullptr), testing::ExitedWithCode(1),
+                "^Error: The description nests too deeply: out of stack space.\n$");
+    EXPECT_NE(access(pure_brix_file, F_OK), 0);
+    unlink(pure_brix_file);
+    pure_brix_file[0] = '\0';
 }
 
 } // namespace
