@@ -27,7 +27,8 @@ extern brix_str2int_map all_registers, all_vregisters, all_memories, all_regfile
     all_emitted_shared_memories;
 extern uint32_t brix_largest_register_bytes, brix_largest_memory_bits, brix_largest_vregister_bytes,
     brix_largest_vregister_incr;
-// The levels above the object now being emitted, read by the backdoor writers.
+// The levels above the object now being emitted, as the backdoor walk's views of their
+// records.
 extern brix_list_tag* brix_hierarchy;
 // The coverage and backdoor tables of the language now being written, set by the walk.
 extern const brix_cvr_templates* brix_cvr_lang;
