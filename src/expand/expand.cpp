@@ -77,31 +77,6 @@ std::unique_ptr<char[]> read_brix_file(const char* path) {
     return text;
 }
 
-// Tcl's parser recurses once for each "[" inside another and sets itself no limit, so a
-// script nested deeply enough overflows the stack. No description comes near this depth;
-// gives the line at which the text passes it, or 0. Brackets are counted wherever they
-// stand, braces and quotes aside, which errs on the safe side.
-int line_of_runaway_nesting(const char* text) {
-    constexpr int max_depth = 2000;
-    int depth = 0;
-    int line = 1;
-    for (const char* p = text; *p != '\0'; ++p) {
-        // A backslash takes the next byte with it, so that byte opens and closes nothing.
-        const bool escaped = *p == '\\' && p[1] != '\0';
-        p += escaped ? 1 : 0;
-        if (*p == '\n') {
-            ++line;
-        } else if (escaped) {
-            continue;
-        } else if (*p == '[' && ++depth > max_depth) {
-            return line;
-        } else if (*p == ']' && depth > 0) {
-            --depth;
-        }
-    }
-    return 0;
-}
-
 // Sets reading_brix_file for the evaluation of one file and gives the old one back after.
 struct reading_file_scope {
     const char* saved;
@@ -284,10 +259,6 @@ bool brix_write_direct(Tcl_Channel out, std::string_view text) {
 
 int execute_brix_file(const char* path) {
     const std::unique_ptr<char[]> text = read_brix_file(path);
-    if (const int line = line_of_runaway_nesting(text.get())) {
-        brix_error("Error: Brackets nested too deeply in file %s at line %d ... exiting!\n", path,
-                   line);
-    }
     const std::string script = protect_brix_subscripts(text.get());
 
     const reading_file_scope scope(path);
