@@ -154,13 +154,7 @@ void take_language(const char* lang) {
 
 void take_coverage_models(const char* letters) {
     for (const char* p = letters; *p != '\0'; ++p) {
-        if (*p == 'b') {
-            brix_cvr_reg_bits = 1;
-        } else if (*p == 'a') {
-            brix_cvr_addr_map = 1;
-        } else if (*p == 'f') {
-            brix_cvr_field_vals = 1;
-        } else {
+        if (!brix_take_coverage_model(*p)) {
             usage_error_char("Error: Unknown coverage model '%c'.\n", *p);
         }
     }
@@ -273,26 +267,6 @@ run_request scan_command_line(int argc, char** argv) {
     return run;
 }
 
-// The pure description, parsed and checked into the model.
-void read_model(const run_request& run) {
-    brix_name_pure_file();
-    expand_tcl_constructs(run.description_file, pure_brix_file);
-    free(brix_inc_dirs);
-    brix_inc_dirs = nullptr;
-
-    yyin = fopen(pure_brix_file, "r");
-    if (yyin == nullptr) {
-        fprintf(stderr, "Error: Failed to open Pure BRIX file '%s' for reading...please check.\n",
-                pure_brix_file);
-        brix_exit(1);
-    }
-    // The scanner may still stand on another input of this process.
-    brix_scanner_restart(yyin);
-    initialize();
-    yyparse();
-    check_semantics(run.top);
-}
-
 void write_outputs(const run_request& run) {
     if (strcmp(target_language, "sv") == 0) {
         emit_sv_brx_model(run.top);
@@ -314,14 +288,37 @@ void write_outputs(const run_request& run) {
 
 } // namespace
 
-int brix_main(int argc, char** argv) {
-    print_banner();
+void brix_read_model(const char* description_file, const char* top) {
+    brix_name_pure_file();
+    expand_tcl_constructs(description_file, pure_brix_file);
+    free(brix_inc_dirs);
+    brix_inc_dirs = nullptr;
+
+    yyin = fopen(pure_brix_file, "r");
+    if (yyin == nullptr) {
+        fprintf(stderr, "Error: Failed to open Pure BRIX file '%s' for reading...please check.\n",
+                pure_brix_file);
+        brix_exit(1);
+    }
+    // The scanner may still stand on another input of this process.
+    brix_scanner_restart(yyin);
+    initialize();
+    yyparse();
+    check_semantics(top);
+}
+
+void brix_ignore_file_size_signal() {
     // A file that outgrows the size limit gives its write an error to report; the
     // signal would end the run without a word.
     signal(SIGXFSZ, SIG_IGN);
+}
+
+int brix_main(int argc, char** argv) {
+    print_banner();
+    brix_ignore_file_size_signal();
     Tcl_FindExecutable(argv[0]);
     run_request run = scan_command_line(argc, argv);
-    read_model(run);
+    brix_read_model(run.description_file, run.top);
     write_outputs(run);
 
     free(target_language);

@@ -11,3 +11,6 @@ extern int brix_cvr_field_vals;
 extern int brix_gen_c_interface;
 extern char* brix_backdoor_top_path;
 extern char* brix_vhdl_backdoor_top_path;
+
+// Turns on the coverage model of one letter of `-c` (b, a or f); false for any other.
+bool brix_take_coverage_model(char letter);

@@ -75,13 +75,7 @@ void add_include_dir(const char* value) {
 
 void add_coverage(const char* letters) {
     for (const char* p = letters; *p != '\0'; ++p) {
-        if (*p == 'b') {
-            brix_cvr_reg_bits = 1;
-        } else if (*p == 'a') {
-            brix_cvr_addr_map = 1;
-        } else if (*p == 'f') {
-            brix_cvr_field_vals = 1;
-        } else {
+        if (!brix_take_coverage_model(*p)) {
             usage_error(std::string("unknown coverage model '") + *p + "'");
         }
     }
@@ -177,25 +171,13 @@ void read_description(const map_options& o) {
     // The map and its checks describe the SystemVerilog model; the grammar takes a few
     // decisions by the target language.
     target_language = strdup("sv");
-    brix_name_pure_file();
     fflush(stdout);
     const int saved_stdout = dup(STDOUT_FILENO);
     dup2(STDERR_FILENO, STDOUT_FILENO);
-    expand_tcl_constructs(o.description, pure_brix_file);
+    brix_read_model(o.description, o.top);
     fflush(stdout);
     dup2(saved_stdout, STDOUT_FILENO);
     close(saved_stdout);
-    free(brix_inc_dirs);
-    brix_inc_dirs = nullptr;
-    yyin = fopen(pure_brix_file, "r");
-    if (yyin == nullptr) {
-        fprintf(stderr, "Error: Failed to open Pure BRIX file '%s' for reading...please check.\n",
-                pure_brix_file);
-        brix_exit(1);
-    }
-    initialize();
-    yyparse();
-    check_semantics(o.top);
     fclose(yyin);
     yyin = nullptr;
     unlink(pure_brix_file);
@@ -262,6 +244,7 @@ int run_check(const resolved_map& map, const map_check_options& options) {
 } // namespace
 
 int brixmap_main(int argc, char** argv) {
+    brix_ignore_file_size_signal();
     Tcl_FindExecutable(argv[0]);
     const map_options o = read_command_line(argc, argv);
     read_description(o);
