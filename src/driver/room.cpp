@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <pthread.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -37,7 +38,9 @@ void on_fatal_signal(int sig, siginfo_t* info, void*) {
     const char* at = static_cast<const char*>(info->si_addr);
     if (sig == SIGSEGV && stack_low != nullptr && at < stack_low && at >= stack_low - guard_size) {
         write_stderr("Error: The description nests too deeply: out of stack space.\n");
-        _exit(1);
+        // Not _exit: a sanitizer would first warn of the unwinding that a call declared
+        // not to return implies, from the signal's stack across the run's.
+        syscall(SYS_exit_group, 1);
     }
     if (sig != SIGABRT) {
         // An abort comes with its own words.
@@ -68,8 +71,13 @@ void install_fatal_signal_handlers() {
     }
 }
 
-// A stack overflow leaves no room on the stack itself for the handler.
+// A stack overflow leaves no room on the stack itself for the handler. One that a
+// sanitizer has set up already serves as well, and stays its own to remove.
 void give_signals_a_stack() {
+    stack_t current{};
+    if (sigaltstack(nullptr, &current) == 0 && (current.ss_flags & SS_DISABLE) == 0) {
+        return;
+    }
     stack_t stack{};
     stack.ss_sp = malloc(signal_stack_size);
     stack.ss_size = signal_stack_size;
