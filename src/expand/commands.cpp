@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <string>
+#include <unordered_map>
+#include <vector>
 
 int brix_level = 0;
 
@@ -58,6 +61,82 @@ const description_command description_commands[] = {
     {"coverpoint", family::compound},
     {"attributes", family::braced},
 };
+
+// Set once a description command is renamed or deleted.
+bool commands_replaced = false;
+
+void note_replaced(ClientData, Tcl_Interp*, const char*, const char*, int) {
+    commands_replaced = true;
+}
+
+bool is_description_command(std::string_view name) {
+    return std::any_of(std::begin(description_commands), std::end(description_commands),
+                       [name](const description_command& cmd) { return name == cmd.name; });
+}
+
+// Whether a body, compiled, runs with the lines that evaluating its text gives. Tcl shares
+// a literal word among all the scripts it compiles, and the bytecode of a literal that
+// some command evaluates keeps the lines of the place it was first compiled for, where
+// evaluating the text makes the word afresh. So: only description commands, whose words
+// never reach Tcl as scripts but as bodies evaluated here, and no command substitution.
+bool compiles_alike(const char* text, int length) {
+    const char* p = text;
+    const char* const end = text + length;
+    while (p < end) {
+        Tcl_Parse parse;
+        if (Tcl_ParseCommand(nullptr, p, static_cast<int>(end - p), 0, &parse) != TCL_OK) {
+            return false;
+        }
+        const Tcl_Token* tokens = parse.tokenPtr;
+        bool alike = parse.numWords == 0 ||
+                     (tokens[0].type == TCL_TOKEN_SIMPLE_WORD &&
+                      is_description_command({tokens[1].start, std::size_t(tokens[1].size)}));
+        alike = alike && std::none_of(tokens, tokens + parse.numTokens, [](const Tcl_Token& t) {
+                    return t.type == TCL_TOKEN_COMMAND;
+                });
+        p = parse.commandStart + parse.commandSize;
+        Tcl_FreeParse(&parse);
+        if (!alike) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Evaluates a body word. The script it runs as is an object of this file's own for each
+// body text, compiled the first time it runs: one only ever evaluated here counts its
+// lines from the body's first, as evaluating the text does. A body that would not run
+// alike compiled, or one whose command names may mean other commands now, is evaluated
+// as text.
+int evaluate_body(Tcl_Obj* word) {
+    struct body {
+        Tcl_Obj* script;
+        bool compiled;
+    };
+    // Bodies made afresh at each call (substituted) would fill the cache without reuse.
+    constexpr std::size_t most = 4096;
+    static std::unordered_map<std::string, body> bodies;
+    int length = 0;
+    const char* text = Tcl_GetStringFromObj(word, &length);
+    std::string key(text, static_cast<std::size_t>(length));
+    auto found = bodies.find(key);
+    if (found == bodies.end()) {
+        if (bodies.size() >= most) {
+            for (const auto& entry : bodies) {
+                Tcl_DecrRefCount(entry.second.script);
+            }
+            bodies.clear();
+        }
+        Tcl_Obj* script = Tcl_NewStringObj(text, length);
+        Tcl_IncrRefCount(script);
+        found = bodies.emplace(std::move(key), body{script, compiles_alike(text, length)}).first;
+    }
+    if (found->second.compiled && !commands_replaced &&
+        Tcl_GetCurrentNamespace(brixgen_interp) == Tcl_GetGlobalNamespace(brixgen_interp)) {
+        return Tcl_EvalObjEx(brixgen_interp, found->second.script, 0);
+    }
+    return Tcl_Eval(brixgen_interp, text);
+}
 
 // Writes pure text through Tcl; after the first failed evaluation every later step is
 // skipped and status() reports the failure. Each piece is what evaluating a `puts` of it
@@ -135,9 +214,9 @@ class pure_writer {
         flushed_ = 0;
     }
     // Evaluates a body, with what is gathered written first; its Check.
-    int eval_body(const char* body) {
+    int eval_body(Tcl_Obj* body) {
         drain();
-        const int status = brix_check_result(Tcl_Eval(brixgen_interp, body));
+        const int status = brix_check_result(evaluate_body(body));
         direct_ = brix_direct_writes();
         return status;
     }
@@ -216,7 +295,8 @@ const char* write_head(pure_writer& w, int argc, const char** argv, int kept,
     return w.failed() ? nullptr : last;
 }
 
-int write_compound(const description_command& cmd, int argc, const char** argv) {
+int write_compound(const description_command& cmd, int argc, const char** argv,
+                   Tcl_Obj* const objv[]) {
     lineno_cache_entry where{};
     pure_writer w;
     start_declaration(w, &where);
@@ -230,7 +310,7 @@ int write_compound(const description_command& cmd, int argc, const char** argv) 
     }
     ++brix_level;
     brix_push_line_anchor(where);
-    const int status = w.eval_body(body);
+    const int status = w.eval_body(objv[argc - 1]);
     brix_pop_line_anchor();
     if (status != TCL_OK) {
         // The level stays raised: the error ends the run unless the description catches it.
@@ -372,8 +452,8 @@ int write_constraint(int argc, const char** argv) {
     return TCL_OK;
 }
 
-int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const char** argv) {
-    const auto& cmd = *static_cast<const description_command*>(client_data);
+int write_declaration(const description_command& cmd, int argc, const char** argv,
+                      Tcl_Obj* const objv[]) {
     switch (cmd.kind) {
     case family::pair:
         return write_pair(cmd, argc, argv);
@@ -390,9 +470,26 @@ int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const
     case family::constraint:
         return write_constraint(argc, argv);
     case family::compound:
-        return write_compound(cmd, argc, argv);
+        return write_compound(cmd, argc, argv, objv);
     }
     return TCL_ERROR;
+}
+
+int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
+    const auto& cmd = *static_cast<const description_command*>(client_data);
+    // Declarations have a handful of words; the array is only for longer ones.
+    constexpr int on_stack = 16;
+    const char* few[on_stack];
+    std::vector<const char*> many;
+    const char** argv = few;
+    if (objc > on_stack) {
+        many.resize(static_cast<std::size_t>(objc));
+        argv = many.data();
+    }
+    for (int i = 0; i < objc; ++i) {
+        argv[i] = Tcl_GetString(objv[i]);
+    }
+    return write_declaration(cmd, objc, argv, objv);
 }
 
 } // namespace
@@ -400,8 +497,10 @@ int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const
 void brix_register_description_commands() {
     for (const description_command& cmd : description_commands) {
         add_str2int_map_entry(all_purebrix_cmds, brix_strdup(cmd.name), 1);
-        Tcl_CreateCommand(brixgen_interp, cmd.name, run_description_command,
-                          const_cast<description_command*>(&cmd), nullptr);
+        Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
+                             const_cast<description_command*>(&cmd), nullptr);
+        Tcl_TraceCommand(brixgen_interp, cmd.name, TCL_TRACE_RENAME | TCL_TRACE_DELETE,
+                         note_replaced, nullptr);
     }
     // `proc` is placed like a description command.
     add_str2int_map_entry(all_purebrix_cmds, brix_strdup("proc"), 1);
