@@ -7,6 +7,7 @@
 #include "driver/diag.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -69,9 +70,35 @@ void note_replaced(ClientData, Tcl_Interp*, const char*, const char*, int) {
     commands_replaced = true;
 }
 
+// A set of command names. The line tracking asks for every frame it reads, so the names
+// are grouped by length and told apart by their first letter before any comparison.
+class name_set {
+  public:
+    explicit name_set(bool with_proc) {
+        for (const description_command& cmd : description_commands) {
+            add(cmd.name);
+        }
+        if (with_proc) {
+            add("proc");
+        }
+    }
+    bool contains(std::string_view name) const {
+        if (name.empty() || name.size() >= by_length_.size()) {
+            return false;
+        }
+        const auto& candidates = by_length_[name.size()];
+        return std::any_of(candidates.begin(), candidates.end(),
+                           [name](std::string_view c) { return c[0] == name[0] && c == name; });
+    }
+
+  private:
+    void add(std::string_view name) { by_length_.at(name.size()).push_back(name); }
+    std::array<std::vector<std::string_view>, 16> by_length_;
+};
+
 bool is_description_command(std::string_view name) {
-    return std::any_of(std::begin(description_commands), std::end(description_commands),
-                       [name](const description_command& cmd) { return name == cmd.name; });
+    static const name_set names(false);
+    return names.contains(name);
 }
 
 // Whether a body, compiled, runs with the lines that evaluating its text gives. Tcl shares
@@ -496,12 +523,15 @@ int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_O
 
 void brix_register_description_commands() {
     for (const description_command& cmd : description_commands) {
-        add_str2int_map_entry(all_purebrix_cmds, brix_strdup(cmd.name), 1);
         Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
                              const_cast<description_command*>(&cmd), nullptr);
         Tcl_TraceCommand(brixgen_interp, cmd.name, TCL_TRACE_RENAME | TCL_TRACE_DELETE,
                          note_replaced, nullptr);
     }
+}
+
+bool brix_placed_like_declaration(std::string_view name) {
     // `proc` is placed like a description command.
-    add_str2int_map_entry(all_purebrix_cmds, brix_strdup("proc"), 1);
+    static const name_set names(true);
+    return names.contains(name);
 }

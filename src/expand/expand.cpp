@@ -23,7 +23,6 @@ unsigned long long brix_tcl_error_linenum = 0;
 char* user_pwd = nullptr;
 char* user_ppwd = nullptr;
 brix_str2str_map all_procs_location_info;
-brix_str2int_map all_purebrix_cmds;
 char* brix_inc_dirs = nullptr;
 
 namespace {
@@ -151,7 +150,6 @@ void setup_interpreter() {
         }
     }
     initialize_str2str_map(all_procs_location_info);
-    initialize_str2int_map(all_purebrix_cmds);
     brix_register_description_commands();
     Tcl_CreateCommand(brixgen_interp, "source", BRIX_source, nullptr, nullptr);
     Tcl_CreateCommand(brixgen_interp, "proc", BRIX_proc, nullptr, nullptr);
@@ -372,7 +370,6 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     brix_clear_line_cache();
     free_str2str_map(all_procs_location_info, 1);
-    free_str2int_map(all_purebrix_cmds);
 
     // What stdio still holds is left for the user's standard output.
     brix_flush_tcl_stdout();

@@ -27,7 +27,6 @@ extern int brix_level;
 extern char* user_pwd;
 extern char* user_ppwd;
 extern brix_str2str_map all_procs_location_info;
-extern brix_str2int_map all_purebrix_cmds;
 
 // Evaluates one file of the description; TCL_OK or TCL_ERROR.
 int execute_brix_file(const char* path);
@@ -111,5 +110,8 @@ int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char**
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,
                                      const char** argv);
 
-// Registers the 29 description commands and fills all_purebrix_cmds.
+// Registers the 29 description commands.
 void brix_register_description_commands();
+// True for the name of a description command or `proc`, whose lines the line tracking
+// adds up.
+bool brix_placed_like_declaration(std::string_view name);

@@ -218,8 +218,7 @@ void brix_release_tcl_stdout() {
 
 #if BRIX_TCL_PRIVATE
 bool brix_untraced(Tcl_Command command) {
-    return brix_tcl_internals &&
-           reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
+    return brix_tcl_internals && reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
            reinterpret_cast<Command*>(command)->tracePtr == nullptr;
 }
 

@@ -228,8 +228,7 @@ void step(frame_walk& walk, const frame_info& frame) {
         walk.done = true;
         return;
     }
-    const bool adds = walk.after_lambda ||
-                      get_str2int_map_value(all_purebrix_cmds, std::string(name).c_str()) != 0;
+    const bool adds = walk.after_lambda || brix_placed_like_declaration(name);
     walk.after_lambda = adds && frame.lambda;
     if (adds) {
         walk.sum = fold_line(walk.sum, frame.line);
