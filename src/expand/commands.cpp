@@ -140,29 +140,42 @@ int evaluate_body(Tcl_Obj* word) {
         Tcl_Obj* script;
         bool compiled;
     };
-    // Bodies made afresh at each call (substituted) would fill the cache without reuse.
+    // By text, and by the word a body came as: a literal word comes back at every call, and
+    // is held here so that its address stays its own. Bodies made afresh at each call
+    // (substituted) would fill the cache without reuse, so it is emptied when full.
     constexpr std::size_t most = 4096;
-    static std::unordered_map<std::string, body> bodies;
-    int length = 0;
-    const char* text = Tcl_GetStringFromObj(word, &length);
-    std::string key(text, static_cast<std::size_t>(length));
-    auto found = bodies.find(key);
-    if (found == bodies.end()) {
-        if (bodies.size() >= most) {
-            for (const auto& entry : bodies) {
-                Tcl_DecrRefCount(entry.second.script);
+    static std::unordered_map<std::string, body> by_text;
+    static std::unordered_map<Tcl_Obj*, const body*> by_word;
+    const body* known = nullptr;
+    if (const auto found = by_word.find(word); found != by_word.end()) {
+        known = found->second;
+    } else {
+        if (by_text.size() >= most || by_word.size() >= most) {
+            for (const auto& [text, entry] : by_text) {
+                Tcl_DecrRefCount(entry.script);
             }
-            bodies.clear();
+            for (const auto& [held, entry] : by_word) {
+                Tcl_DecrRefCount(held);
+            }
+            by_text.clear();
+            by_word.clear();
         }
-        Tcl_Obj* script = Tcl_NewStringObj(text, length);
-        Tcl_IncrRefCount(script);
-        found = bodies.emplace(std::move(key), body{script, compiles_alike(text, length)}).first;
+        int length = 0;
+        const char* text = Tcl_GetStringFromObj(word, &length);
+        auto [entry, added] = by_text.try_emplace(std::string(text, std::size_t(length)));
+        if (added) {
+            entry->second = {Tcl_NewStringObj(text, length), compiles_alike(text, length)};
+            Tcl_IncrRefCount(entry->second.script);
+        }
+        known = &entry->second;
+        Tcl_IncrRefCount(word);
+        by_word.emplace(word, known);
     }
-    if (found->second.compiled && !commands_replaced &&
+    if (known->compiled && !commands_replaced &&
         Tcl_GetCurrentNamespace(brixgen_interp) == Tcl_GetGlobalNamespace(brixgen_interp)) {
-        return Tcl_EvalObjEx(brixgen_interp, found->second.script, 0);
+        return Tcl_EvalObjEx(brixgen_interp, known->script, 0);
     }
-    return Tcl_Eval(brixgen_interp, text);
+    return Tcl_Eval(brixgen_interp, Tcl_GetString(word));
 }
 
 // Writes pure text through Tcl; after the first failed evaluation every later step is
@@ -171,8 +184,18 @@ int evaluate_body(Tcl_Obj* word) {
 // gathered and written to Tcl's channel in one go, before anything else can run.
 class pure_writer {
   public:
-    pure_writer() : direct_(brix_direct_writes()) { pending_.reserve(pending_capacity); }
-    ~pure_writer() { drain(); }
+    pure_writer() : direct_(brix_direct_writes()) {
+        if (spare_.empty()) {
+            pending_.reserve(pending_capacity);
+        } else {
+            pending_ = std::move(spare_.back());
+            spare_.pop_back();
+        }
+    }
+    ~pure_writer() {
+        drain();
+        spare_.push_back(std::move(pending_));
+    }
     pure_writer(const pure_writer&) = delete;
     pure_writer& operator=(const pure_writer&) = delete;
 
@@ -278,6 +301,9 @@ class pure_writer {
 
     // Room for a declaration's hash line and words, without regrowing.
     static constexpr std::size_t pending_capacity = 256;
+    // The storage of writers that have ended, one for each level of nesting, for the next
+    // writers to take over instead of allocating their own.
+    static inline std::vector<std::string> spare_;
     bool failed_ = false;
     Tcl_Channel direct_; // where plain pieces may go straight, or null
     std::string pending_;
