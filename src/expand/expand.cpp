@@ -241,7 +241,7 @@ Tcl_Channel brix_direct_writes() {
         return nullptr;
     }
     int mode = 0;
-    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
+    const Tcl_Channel out = brix_stdout_channel(&mode);
     return (mode & TCL_WRITABLE) != 0 ? out : nullptr;
 }
 

@@ -52,6 +52,8 @@ bool brix_plain_text(std::string_view text);
 // channel writable, so that its text may be written straight to the channel instead;
 // else null. It stands until Tcl runs a script.
 Tcl_Channel brix_direct_writes();
+// Tcl_GetChannel(interp, "stdout", mode), for the expansion's interpreter.
+Tcl_Channel brix_stdout_channel(int* mode);
 // Writes text straight to that channel, as such a `puts` would; false, when the write
 // fails, for the caller to evaluate the `puts` and report the failure as it does.
 bool brix_write_direct(Tcl_Channel out, std::string_view text);
