@@ -16,6 +16,7 @@
 
 #include "driver/diag.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
@@ -206,7 +207,10 @@ void place_in_procedure(frame_walk& walk, const std::string& proc) {
 
 // Takes one frame, going outward: the command's own frame first.
 void step(frame_walk& walk, const frame_info& frame) {
-    const std::string_view name = frame.cmd.substr(0, frame.cmd.find_first_of(" \t"));
+    // Up to the first blank or tab; find_first_of would search the two for every letter.
+    const auto stop = std::find_if(frame.cmd.begin(), frame.cmd.end(),
+                                   [](char c) { return c == ' ' || c == '\t'; });
+    const std::string_view name(frame.cmd.data(), std::size_t(stop - frame.cmd.begin()));
     if (frame.proc_type && !frame.proc.empty()) {
         if (!walk.in_body) {
             walk.sum = fold_line(walk.sum, frame.line);
