@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -260,8 +261,18 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
             std::end(unchanged)) {
         return false;
     }
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    // Eight bytes at a time: all the pure text passes here.
+    std::uint64_t seen = 0;
+    std::size_t i = 0;
+    for (; i + sizeof seen <= text.size(); i += sizeof seen) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text.data() + i, sizeof eight);
+        seen |= eight;
+    }
+    for (; i < text.size(); ++i) {
+        seen |= static_cast<unsigned char>(text[i]);
+    }
+    return (seen & 0x8080808080808080) == 0;
 }
 
 // Tcl_Write of unconverted text on the holding channel, when its buffers are empty and it
