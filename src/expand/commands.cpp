@@ -202,7 +202,12 @@ class pure_writer {
     // Writes `text`; `script()` gives the `puts` that writes it. An evaluation that fails
     // stops the writer unless `ignored`.
     template <class Script> void put(std::string_view text, Script script, bool ignored = false) {
-        if (failed_ || gather(text)) {
+        put_read(text, brix_plain_text(text), script, ignored);
+    }
+    // The same, for a text already known to be plain or not.
+    template <class Script>
+    void put_read(std::string_view text, bool plain, Script script, bool ignored) {
+        if (failed_ || gather(text, plain)) {
             return;
         }
         drain();
@@ -213,7 +218,7 @@ class pure_writer {
     }
     void word(const char* text) {
         const std::size_t length = strlen(text);
-        if (failed_ || gather({text, length}, " ")) {
+        if (failed_ || gather({text, length}, brix_plain_text({text, length}), " ")) {
             return;
         }
         put(std::string(text, length) + ' ', [text, length] {
@@ -277,9 +282,10 @@ class pure_writer {
     }
 
   private:
-    // Gathers `text` and `tail` when they may go straight to the channel.
-    bool gather(std::string_view text, std::string_view tail = {}) {
-        if (direct_ == nullptr || !brix_plain_text(text) || !brix_plain_text(tail)) {
+    // Gathers `text` and `tail` when they may go straight to the channel; `plain` tells
+    // whether `text` is.
+    bool gather(std::string_view text, bool plain, std::string_view tail = {}) {
+        if (direct_ == nullptr || !plain || !brix_plain_text(tail)) {
             return false;
         }
         pending_ += text;
@@ -316,10 +322,10 @@ void start_declaration(pure_writer& w, lineno_cache_entry* where = nullptr) {
     // Kept from one declaration to the next for its storage; the `puts` is made from it
     // before anything is evaluated.
     static std::string text;
-    brix_hashline_text(text, where);
+    const bool plain = brix_hashline_text(text, where);
     text += '\n';
-    w.put(
-        text, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
+    w.put_read(
+        text, plain, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
     w.indent();
 }
 

@@ -105,8 +105,8 @@ void brix_clear_line_cache();
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
 // Sets `text` to the hash line of the command being run, without its newline. With
-// `where`, also hands back the place it names.
-void brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
+// `where`, also hands back the place it names. True when the text is plain.
+bool brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,
