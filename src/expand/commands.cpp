@@ -135,45 +135,58 @@ bool compiles_alike(const char* text, int length) {
 // lines from the body's first, as evaluating the text does. A body that would not run
 // alike compiled, or one whose command names may mean other commands now, is evaluated
 // as text.
-int evaluate_body(Tcl_Obj* word) {
-    struct body {
-        Tcl_Obj* script;
-        bool compiled;
-    };
-    // By text, and by the word a body came as: a literal word comes back at every call, and
-    // is held here so that its address stays its own. Bodies made afresh at each call
-    // (substituted) would fill the cache without reuse, so it is emptied when full.
-    constexpr std::size_t most = 4096;
-    static std::unordered_map<std::string, body> by_text;
-    static std::unordered_map<Tcl_Obj*, const body*> by_word;
-    const body* known = nullptr;
-    if (const auto found = by_word.find(word); found != by_word.end()) {
-        known = found->second;
-    } else {
-        if (by_text.size() >= most || by_word.size() >= most) {
-            for (const auto& [text, entry] : by_text) {
-                Tcl_DecrRefCount(entry.script);
-            }
-            for (const auto& [held, entry] : by_word) {
-                Tcl_DecrRefCount(held);
-            }
-            by_text.clear();
-            by_word.clear();
+struct body {
+    Tcl_Obj* script;
+    bool compiled;
+};
+
+// The bodies met so far, by text, and by the word a body came as: a literal word comes back
+// at every call, and is held here so that its address stays its own. Bodies made afresh
+// at each call (substituted) would fill it without reuse, so it is emptied when full.
+class body_cache {
+  public:
+    const body& find(Tcl_Obj* word) {
+        if (const auto found = by_word_.find(word); found != by_word_.end()) {
+            return *found->second;
+        }
+        if (by_text_.size() >= most || by_word_.size() >= most) {
+            clear();
         }
         int length = 0;
         const char* text = Tcl_GetStringFromObj(word, &length);
-        auto [entry, added] = by_text.try_emplace(std::string(text, std::size_t(length)));
+        auto [entry, added] = by_text_.try_emplace(std::string(text, std::size_t(length)));
         if (added) {
             entry->second = {Tcl_NewStringObj(text, length), compiles_alike(text, length)};
             Tcl_IncrRefCount(entry->second.script);
         }
-        known = &entry->second;
         Tcl_IncrRefCount(word);
-        by_word.emplace(word, known);
+        by_word_.emplace(word, &entry->second);
+        return entry->second;
     }
-    if (known->compiled && !commands_replaced &&
+    void clear() {
+        for (const auto& [text, entry] : by_text_) {
+            Tcl_DecrRefCount(entry.script);
+        }
+        for (const auto& [held, entry] : by_word_) {
+            Tcl_DecrRefCount(held);
+        }
+        by_text_.clear();
+        by_word_.clear();
+    }
+
+  private:
+    static constexpr std::size_t most = 4096;
+    std::unordered_map<std::string, body> by_text_;
+    std::unordered_map<Tcl_Obj*, const body*> by_word_;
+};
+
+body_cache bodies;
+
+int evaluate_body(Tcl_Obj* word) {
+    const body& known = bodies.find(word);
+    if (known.compiled && !commands_replaced &&
         Tcl_GetCurrentNamespace(brixgen_interp) == Tcl_GetGlobalNamespace(brixgen_interp)) {
-        return Tcl_EvalObjEx(brixgen_interp, known->script, 0);
+        return Tcl_EvalObjEx(brixgen_interp, known.script, 0);
     }
     return Tcl_Eval(brixgen_interp, Tcl_GetString(word));
 }
@@ -554,6 +567,9 @@ int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_O
 } // namespace
 
 void brix_register_description_commands() {
+    // A new interpreter: its commands are all its own, and it compiles its own bodies.
+    commands_replaced = false;
+    bodies.clear();
     for (const description_command& cmd : description_commands) {
         Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
                              const_cast<description_command*>(&cmd), nullptr);
