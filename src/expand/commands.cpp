@@ -7,8 +7,12 @@
 #include "driver/diag.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
+#include <string>
+#include <unordered_map>
+#include <vector>
 
 int brix_level = 0;
 
@@ -59,21 +63,164 @@ const description_command description_commands[] = {
     {"attributes", family::braced},
 };
 
+// Set once a description command is renamed or deleted.
+bool commands_replaced = false;
+
+void note_replaced(ClientData, Tcl_Interp*, const char*, const char*, int) {
+    commands_replaced = true;
+}
+
+// A set of command names. The line tracking asks for every frame it reads, so the names
+// are grouped by length and told apart by their first letter before any comparison.
+class name_set {
+  public:
+    explicit name_set(bool with_proc) {
+        for (const description_command& cmd : description_commands) {
+            add(cmd.name);
+        }
+        if (with_proc) {
+            add("proc");
+        }
+    }
+    bool contains(std::string_view name) const {
+        if (name.empty() || name.size() >= by_length_.size()) {
+            return false;
+        }
+        const auto& candidates = by_length_[name.size()];
+        return std::any_of(candidates.begin(), candidates.end(),
+                           [name](std::string_view c) { return c[0] == name[0] && c == name; });
+    }
+
+  private:
+    void add(std::string_view name) { by_length_.at(name.size()).push_back(name); }
+    std::array<std::vector<std::string_view>, 16> by_length_;
+};
+
+bool is_description_command(std::string_view name) {
+    static const name_set names(false);
+    return names.contains(name);
+}
+
+// Whether a body, compiled, runs with the lines that evaluating its text gives. Tcl shares
+// a literal word among all the scripts it compiles, and the bytecode of a literal that
+// some command evaluates keeps the lines of the place it was first compiled for, where
+// evaluating the text makes the word afresh. So: only description commands, whose words
+// never reach Tcl as scripts but as bodies evaluated here, and no command substitution.
+bool compiles_alike(const char* text, int length) {
+    const char* p = text;
+    const char* const end = text + length;
+    while (p < end) {
+        Tcl_Parse parse;
+        if (Tcl_ParseCommand(nullptr, p, static_cast<int>(end - p), 0, &parse) != TCL_OK) {
+            return false;
+        }
+        const Tcl_Token* tokens = parse.tokenPtr;
+        bool alike = parse.numWords == 0 ||
+                     (tokens[0].type == TCL_TOKEN_SIMPLE_WORD &&
+                      is_description_command({tokens[1].start, std::size_t(tokens[1].size)}));
+        alike = alike && std::none_of(tokens, tokens + parse.numTokens, [](const Tcl_Token& t) {
+                    return t.type == TCL_TOKEN_COMMAND;
+                });
+        p = parse.commandStart + parse.commandSize;
+        Tcl_FreeParse(&parse);
+        if (!alike) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Evaluates a body word. The script it runs as is an object of this file's own for each
+// body text, compiled the first time it runs: one only ever evaluated here counts its
+// lines from the body's first, as evaluating the text does. A body that would not run
+// alike compiled, or one whose command names may mean other commands now, is evaluated
+// as text.
+struct body {
+    Tcl_Obj* script;
+    bool compiled;
+};
+
+// The bodies met so far, by text, and by the word a body came as: a literal word comes back
+// at every call, and is held here so that its address stays its own. Bodies made afresh
+// at each call (substituted) would fill it without reuse, so it is emptied when full.
+class body_cache {
+  public:
+    const body& find(Tcl_Obj* word) {
+        if (const auto found = by_word_.find(word); found != by_word_.end()) {
+            return *found->second;
+        }
+        if (by_text_.size() >= most || by_word_.size() >= most) {
+            clear();
+        }
+        int length = 0;
+        const char* text = Tcl_GetStringFromObj(word, &length);
+        auto [entry, added] = by_text_.try_emplace(std::string(text, std::size_t(length)));
+        if (added) {
+            entry->second = {Tcl_NewStringObj(text, length), compiles_alike(text, length)};
+            Tcl_IncrRefCount(entry->second.script);
+        }
+        Tcl_IncrRefCount(word);
+        by_word_.emplace(word, &entry->second);
+        return entry->second;
+    }
+    void clear() {
+        for (const auto& [text, entry] : by_text_) {
+            Tcl_DecrRefCount(entry.script);
+        }
+        for (const auto& [held, entry] : by_word_) {
+            Tcl_DecrRefCount(held);
+        }
+        by_text_.clear();
+        by_word_.clear();
+    }
+
+  private:
+    static constexpr std::size_t most = 4096;
+    std::unordered_map<std::string, body> by_text_;
+    std::unordered_map<Tcl_Obj*, const body*> by_word_;
+};
+
+body_cache bodies;
+
+int evaluate_body(Tcl_Obj* word) {
+    const body& known = bodies.find(word);
+    if (known.compiled && !commands_replaced &&
+        Tcl_GetCurrentNamespace(brixgen_interp) == Tcl_GetGlobalNamespace(brixgen_interp)) {
+        return Tcl_EvalObjEx(brixgen_interp, known.script, 0);
+    }
+    return Tcl_Eval(brixgen_interp, Tcl_GetString(word));
+}
+
 // Writes pure text through Tcl; after the first failed evaluation every later step is
 // skipped and status() reports the failure. Each piece is what evaluating a `puts` of it
 // writes; where that evaluation can only write the piece as it stands, pieces are
 // gathered and written to Tcl's channel in one go, before anything else can run.
 class pure_writer {
   public:
-    pure_writer() : direct_(brix_direct_writes()) { pending_.reserve(pending_capacity); }
-    ~pure_writer() { drain(); }
+    pure_writer() : direct_(brix_direct_writes()) {
+        if (spare_.empty()) {
+            pending_.reserve(pending_capacity);
+        } else {
+            pending_ = std::move(spare_.back());
+            spare_.pop_back();
+        }
+    }
+    ~pure_writer() {
+        drain();
+        spare_.push_back(std::move(pending_));
+    }
     pure_writer(const pure_writer&) = delete;
     pure_writer& operator=(const pure_writer&) = delete;
 
     // Writes `text`; `script()` gives the `puts` that writes it. An evaluation that fails
     // stops the writer unless `ignored`.
     template <class Script> void put(std::string_view text, Script script, bool ignored = false) {
-        if (failed_ || gather(text)) {
+        put_read(text, brix_plain_text(text), script, ignored);
+    }
+    // The same, for a text already known to be plain or not.
+    template <class Script>
+    void put_read(std::string_view text, bool plain, Script script, bool ignored) {
+        if (failed_ || gather(text, plain)) {
             return;
         }
         drain();
@@ -84,7 +231,7 @@ class pure_writer {
     }
     void word(const char* text) {
         const std::size_t length = strlen(text);
-        if (failed_ || gather({text, length}, " ")) {
+        if (failed_ || gather({text, length}, brix_plain_text({text, length}), " ")) {
             return;
         }
         put(std::string(text, length) + ' ', [text, length] {
@@ -135,9 +282,9 @@ class pure_writer {
         flushed_ = 0;
     }
     // Evaluates a body, with what is gathered written first; its Check.
-    int eval_body(const char* body) {
+    int eval_body(Tcl_Obj* body) {
         drain();
-        const int status = brix_check_result(Tcl_Eval(brixgen_interp, body));
+        const int status = brix_check_result(evaluate_body(body));
         direct_ = brix_direct_writes();
         return status;
     }
@@ -148,9 +295,10 @@ class pure_writer {
     }
 
   private:
-    // Gathers `text` and `tail` when they may go straight to the channel.
-    bool gather(std::string_view text, std::string_view tail = {}) {
-        if (direct_ == nullptr || !brix_plain_text(text) || !brix_plain_text(tail)) {
+    // Gathers `text` and `tail` when they may go straight to the channel; `plain` tells
+    // whether `text` is.
+    bool gather(std::string_view text, bool plain, std::string_view tail = {}) {
+        if (direct_ == nullptr || !plain || !brix_plain_text(tail)) {
             return false;
         }
         pending_ += text;
@@ -172,6 +320,9 @@ class pure_writer {
 
     // Room for a declaration's hash line and words, without regrowing.
     static constexpr std::size_t pending_capacity = 256;
+    // The storage of writers that have ended, one for each level of nesting, for the next
+    // writers to take over instead of allocating their own.
+    static inline std::vector<std::string> spare_;
     bool failed_ = false;
     Tcl_Channel direct_; // where plain pieces may go straight, or null
     std::string pending_;
@@ -184,10 +335,10 @@ void start_declaration(pure_writer& w, lineno_cache_entry* where = nullptr) {
     // Kept from one declaration to the next for its storage; the `puts` is made from it
     // before anything is evaluated.
     static std::string text;
-    brix_hashline_text(text, where);
+    const bool plain = brix_hashline_text(text, where);
     text += '\n';
-    w.put(
-        text, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
+    w.put_read(
+        text, plain, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
     w.indent();
 }
 
@@ -216,7 +367,8 @@ const char* write_head(pure_writer& w, int argc, const char** argv, int kept,
     return w.failed() ? nullptr : last;
 }
 
-int write_compound(const description_command& cmd, int argc, const char** argv) {
+int write_compound(const description_command& cmd, int argc, const char** argv,
+                   Tcl_Obj* const objv[]) {
     lineno_cache_entry where{};
     pure_writer w;
     start_declaration(w, &where);
@@ -230,7 +382,7 @@ int write_compound(const description_command& cmd, int argc, const char** argv) 
     }
     ++brix_level;
     brix_push_line_anchor(where);
-    const int status = w.eval_body(body);
+    const int status = w.eval_body(objv[argc - 1]);
     brix_pop_line_anchor();
     if (status != TCL_OK) {
         // The level stays raised: the error ends the run unless the description catches it.
@@ -372,8 +524,8 @@ int write_constraint(int argc, const char** argv) {
     return TCL_OK;
 }
 
-int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const char** argv) {
-    const auto& cmd = *static_cast<const description_command*>(client_data);
+int write_declaration(const description_command& cmd, int argc, const char** argv,
+                      Tcl_Obj* const objv[]) {
     switch (cmd.kind) {
     case family::pair:
         return write_pair(cmd, argc, argv);
@@ -390,19 +542,44 @@ int run_description_command(ClientData client_data, Tcl_Interp*, int argc, const
     case family::constraint:
         return write_constraint(argc, argv);
     case family::compound:
-        return write_compound(cmd, argc, argv);
+        return write_compound(cmd, argc, argv, objv);
     }
     return TCL_ERROR;
+}
+
+int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
+    const auto& cmd = *static_cast<const description_command*>(client_data);
+    // Declarations have a handful of words; the array is only for longer ones.
+    constexpr int on_stack = 16;
+    const char* few[on_stack];
+    std::vector<const char*> many;
+    const char** argv = few;
+    if (objc > on_stack) {
+        many.resize(static_cast<std::size_t>(objc));
+        argv = many.data();
+    }
+    for (int i = 0; i < objc; ++i) {
+        argv[i] = Tcl_GetString(objv[i]);
+    }
+    return write_declaration(cmd, objc, argv, objv);
 }
 
 } // namespace
 
 void brix_register_description_commands() {
+    // A new interpreter: its commands are all its own, and it compiles its own bodies.
+    commands_replaced = false;
+    bodies.clear();
     for (const description_command& cmd : description_commands) {
-        add_str2int_map_entry(all_purebrix_cmds, brix_strdup(cmd.name), 1);
-        Tcl_CreateCommand(brixgen_interp, cmd.name, run_description_command,
-                          const_cast<description_command*>(&cmd), nullptr);
+        Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
+                             const_cast<description_command*>(&cmd), nullptr);
+        Tcl_TraceCommand(brixgen_interp, cmd.name, TCL_TRACE_RENAME | TCL_TRACE_DELETE,
+                         note_replaced, nullptr);
     }
+}
+
+bool brix_placed_like_declaration(std::string_view name) {
     // `proc` is placed like a description command.
-    add_str2int_map_entry(all_purebrix_cmds, brix_strdup("proc"), 1);
+    static const name_set names(true);
+    return names.contains(name);
 }

@@ -24,7 +24,6 @@ unsigned long long brix_tcl_error_linenum = 0;
 char* user_pwd = nullptr;
 char* user_ppwd = nullptr;
 brix_str2str_map all_procs_location_info;
-brix_str2int_map all_purebrix_cmds;
 char* brix_inc_dirs = nullptr;
 void (*brix_tcl_setup_hook)(Tcl_Interp* interp) = nullptr;
 
@@ -130,7 +129,6 @@ void setup_interpreter() {
         }
     }
     initialize_str2str_map(all_procs_location_info);
-    initialize_str2int_map(all_purebrix_cmds);
     brix_register_description_commands();
     Tcl_CreateCommand(brixgen_interp, "source", BRIX_source, nullptr, nullptr);
     Tcl_CreateCommand(brixgen_interp, "proc", BRIX_proc, nullptr, nullptr);
@@ -236,7 +234,7 @@ Tcl_Channel brix_direct_writes() {
         return nullptr;
     }
     int mode = 0;
-    const Tcl_Channel out = Tcl_GetChannel(brixgen_interp, "stdout", &mode);
+    const Tcl_Channel out = brix_stdout_channel(&mode);
     return (mode & TCL_WRITABLE) != 0 ? out : nullptr;
 }
 
@@ -364,7 +362,6 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
 
     brix_clear_line_cache();
     free_str2str_map(all_procs_location_info, 1);
-    free_str2int_map(all_purebrix_cmds);
 
     // What stdio still holds is left for the user's standard output.
     brix_flush_tcl_stdout();

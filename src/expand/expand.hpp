@@ -27,7 +27,6 @@ extern int brix_level;
 extern char* user_pwd;
 extern char* user_ppwd;
 extern brix_str2str_map all_procs_location_info;
-extern brix_str2int_map all_purebrix_cmds;
 
 // Called on the interpreter once it is set up, before the description runs, by a driver
 // that must bound what a script may do (the fuzzer); null in brixgen.
@@ -57,6 +56,8 @@ bool brix_plain_text(std::string_view text);
 // channel writable, so that its text may be written straight to the channel instead;
 // else null. It stands until Tcl runs a script.
 Tcl_Channel brix_direct_writes();
+// Tcl_GetChannel(interp, "stdout", mode), for the expansion's interpreter.
+Tcl_Channel brix_stdout_channel(int* mode);
 // Writes text straight to that channel, as such a `puts` would; false, when the write
 // fails, for the caller to evaluate the `puts` and report the failure as it does.
 bool brix_write_direct(Tcl_Channel out, std::string_view text);
@@ -112,12 +113,15 @@ void brix_clear_line_cache();
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
 // Sets `text` to the hash line of the command being run, without its newline. With
-// `where`, also hands back the place it names.
-void brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
+// `where`, also hands back the place it names. True when the text is plain.
+bool brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,
                                      const char** argv);
 
-// Registers the 29 description commands and fills all_purebrix_cmds.
+// Registers the 29 description commands.
 void brix_register_description_commands();
+// True for the name of a description command or `proc`, whose lines the line tracking
+// adds up.
+bool brix_placed_like_declaration(std::string_view name);

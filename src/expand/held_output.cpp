@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -207,7 +208,14 @@ void watch_interp(Tcl_Interp* interp) {
 
 } // namespace
 
+namespace {
+// The interpreter's table of channels by name, once looked up: it lives as long as the
+// interpreter. Null until then, and again for each new interpreter.
+Tcl_HashTable* channel_table = nullptr;
+} // namespace
+
 void brix_hold_tcl_stdout() {
+    channel_table = nullptr;
     const Tcl_Channel out = Tcl_GetStdChannel(TCL_STDOUT);
     if (out == nullptr) {
         return;
@@ -226,9 +234,24 @@ void brix_release_tcl_stdout() {
 }
 
 #if BRIX_TCL_PRIVATE
+Tcl_Channel brix_stdout_channel(int* mode) {
+    // What Tcl_GetChannel does for "stdout", with the table kept.
+    const auto* std_out = reinterpret_cast<const Channel*>(Tcl_GetStdChannel(TCL_STDOUT));
+    if (brix_tcl_internals && channel_table != nullptr && std_out != nullptr) {
+        if (Tcl_HashEntry* entry = Tcl_FindHashEntry(channel_table, std_out->state->channelName)) {
+            Channel* bottom = static_cast<Channel*>(Tcl_GetHashValue(entry))->state->bottomChanPtr;
+            *mode = bottom->state->flags & (TCL_READABLE | TCL_WRITABLE);
+            return reinterpret_cast<Tcl_Channel>(bottom);
+        }
+    }
+    // Not found sets the interpreter's result as it does.
+    const Tcl_Channel found = Tcl_GetChannel(brixgen_interp, "stdout", mode);
+    channel_table = static_cast<Tcl_HashTable*>(Tcl_GetAssocData(brixgen_interp, "tclIO", nullptr));
+    return found;
+}
+
 bool brix_untraced(Tcl_Command command) {
-    return brix_tcl_internals &&
-           reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
+    return brix_tcl_internals && reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
            reinterpret_cast<Command*>(command)->tracePtr == nullptr;
 }
 
@@ -247,8 +270,18 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
             std::end(unchanged)) {
         return false;
     }
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    // Eight bytes at a time: all the pure text passes here.
+    std::uint64_t seen = 0;
+    std::size_t i = 0;
+    for (; i + sizeof seen <= text.size(); i += sizeof seen) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, text.data() + i, sizeof eight);
+        seen |= eight;
+    }
+    for (; i < text.size(); ++i) {
+        seen |= static_cast<unsigned char>(text[i]);
+    }
+    return (seen & 0x8080808080808080) == 0;
 }
 
 // Tcl_Write of unconverted text on the holding channel, when its buffers are empty and it
@@ -280,6 +313,9 @@ bool brix_hold_directly(Tcl_Channel out, std::string_view text) {
     return true;
 }
 #else
+Tcl_Channel brix_stdout_channel(int* mode) {
+    return Tcl_GetChannel(brixgen_interp, "stdout", mode);
+}
 // Without the interpreter's state in view, a trace may be watching: every piece goes
 // through an evaluated `puts`.
 bool brix_untraced(Tcl_Command) {

@@ -16,6 +16,7 @@
 
 #include "driver/diag.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
@@ -206,7 +207,10 @@ void place_in_procedure(frame_walk& walk, const std::string& proc) {
 
 // Takes one frame, going outward: the command's own frame first.
 void step(frame_walk& walk, const frame_info& frame) {
-    const std::string_view name = frame.cmd.substr(0, frame.cmd.find_first_of(" \t"));
+    // Up to the first blank or tab; find_first_of would search the two for every letter.
+    const auto stop = std::find_if(frame.cmd.begin(), frame.cmd.end(),
+                                   [](char c) { return c == ' ' || c == '\t'; });
+    const std::string_view name(frame.cmd.data(), std::size_t(stop - frame.cmd.begin()));
     if (frame.proc_type && !frame.proc.empty()) {
         if (!walk.in_body) {
             walk.sum = fold_line(walk.sum, frame.line);
@@ -228,8 +232,7 @@ void step(frame_walk& walk, const frame_info& frame) {
         walk.done = true;
         return;
     }
-    const bool adds = walk.after_lambda ||
-                      get_str2int_map_value(all_purebrix_cmds, std::string(name).c_str()) != 0;
+    const bool adds = walk.after_lambda || brix_placed_like_declaration(name);
     walk.after_lambda = adds && frame.lambda;
     if (adds) {
         walk.sum = fold_line(walk.sum, frame.line);
@@ -400,7 +403,7 @@ int get_current_brix_file_line_num(const char** file_out) {
     return finish(walk, file_out);
 }
 
-void brix_hashline_text(std::string& text, lineno_cache_entry* where) {
+bool brix_hashline_text(std::string& text, lineno_cache_entry* where) {
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
@@ -415,6 +418,14 @@ void brix_hashline_text(std::string& text, lineno_cache_entry* where) {
     text.append(number, end);
     text += ' ';
     text += file;
+    // All but the file name is plain; the name is mostly the last one's.
+    static std::string last_file;
+    static bool last_plain = true;
+    if (last_file != file) {
+        last_file = file;
+        last_plain = brix_plain_text(last_file);
+    }
+    return last_plain;
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {

@@ -381,7 +381,7 @@ void copy_global_field_type(const char* ident) {
 void name_inline_field(char* ident) {
     refuse_defined_here(ident, ALREADY_DEFINED);
     tmp_field->name = ident;
-    tmp_field->type->name = brix_strdup(ident);
+    tmp_field->type->name = brix_arena_strdup(ident);
     insert_field_symbol_unless_unused(ident);
 }
 } // namespace
@@ -1046,7 +1046,7 @@ void finish_register_instance(char* ident, int form, bool in_block) {
     } else {
         refuse_defined_here(ident, ALREADY_DEFINED);
         tmp_register->name = ident;
-        tmp_register->type->name = brix_strdup(ident);
+        tmp_register->type->name = brix_arena_strdup(ident);
         create_and_insert_symrec(current_scope, ident, BRIX_REGISTER, tmp_register);
     }
     check_register_instance_type();
