@@ -38,7 +38,7 @@ const brix_cvr_templates hx_cvr_templates = {
     .bin_assign = "",
     .bin_default = nullptr,
     .bin_values_open = // a bin without values is written whole by bin_default_alone
-    /*bin_values_open*/ "( ",
+    "( ",
     .bin_value_sep = ", ",
     .bin_values_close = " );\n",
     .bin_range_open = "",
@@ -182,7 +182,7 @@ const brix_gen_templates hx_templates = {
     .reg_field_new = "\t\tthis.%s = new(this, \"%s\", %d, %s, %s, %s, %d, %d, cvr);\n",
     .set_attribute = nullptr,
     .add_constraint = // an HX model carries no attributes
-    /*add_constraint*/ "\t\tXadd_constraintsX(\"%s\");\n",
+    "\t\tXadd_constraintsX(\"%s\");\n",
     .add_field_constraint = "\t\tXadd_constraintsX(\"%s_%s\");\n",
     .add_user_defined_constraint = "\t\tXadd_constraintsX(\"user_defined\");\n",
     .reg_ctor_tail = "\t}\n",
