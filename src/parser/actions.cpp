@@ -80,7 +80,7 @@ void open_definition_scope(const char* name) {
     const std::string scope_name = current_scope->name == nullptr
                                        ? std::string(name)
                                        : std::string(current_scope->name) + "_" + name;
-    switch_to_scope(create_child_scope(current_scope, scope_name.c_str()));
+    switch_to_scope(create_child_scope(current_scope, brix_arena_strdup(scope_name.c_str())));
 }
 
 void close_definition_scope() {
