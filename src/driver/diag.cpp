@@ -333,10 +333,23 @@ std::map<const char*, const char*>& arena_blocks() {
 }
 
 bool in_arena(const void* p) {
+    // The parser frees its tokens as it uses them, so a pointer mostly lies in the block
+    // of the last hit; only a miss searches the map.
+    static std::uintptr_t hit_begin = 0;
+    static std::uintptr_t hit_end = 0;
+    const auto address = reinterpret_cast<std::uintptr_t>(p);
+    if (address >= hit_begin && address < hit_end) {
+        return true;
+    }
     const auto& blocks = arena_blocks();
     const char* c = static_cast<const char*>(p);
     auto it = blocks.upper_bound(c);
-    return it != blocks.begin() && c < (--it)->second;
+    if (it == blocks.begin() || c >= (--it)->second) {
+        return false;
+    }
+    hit_begin = reinterpret_cast<std::uintptr_t>(it->first);
+    hit_end = reinterpret_cast<std::uintptr_t>(it->second);
+    return true;
 }
 } // namespace
 

@@ -80,7 +80,7 @@ void open_definition_scope(const char* name) {
     const std::string scope_name = current_scope->name == nullptr
                                        ? std::string(name)
                                        : std::string(current_scope->name) + "_" + name;
-    switch_to_scope(create_child_scope(current_scope, scope_name.c_str()));
+    switch_to_scope(create_child_scope(current_scope, brix_arena_strdup(scope_name.c_str())));
 }
 
 void close_definition_scope() {
@@ -380,8 +380,9 @@ void copy_global_field_type(const char* ident) {
 
 void name_inline_field(char* ident) {
     refuse_defined_here(ident, ALREADY_DEFINED);
+    // Names are never changed in place, so the inline type can share its instance's.
     tmp_field->name = ident;
-    tmp_field->type->name = brix_arena_strdup(ident);
+    tmp_field->type->name = ident;
     insert_field_symbol_unless_unused(ident);
 }
 } // namespace
@@ -1046,7 +1047,7 @@ void finish_register_instance(char* ident, int form, bool in_block) {
     } else {
         refuse_defined_here(ident, ALREADY_DEFINED);
         tmp_register->name = ident;
-        tmp_register->type->name = brix_arena_strdup(ident);
+        tmp_register->type->name = ident;
         create_and_insert_symrec(current_scope, ident, BRIX_REGISTER, tmp_register);
     }
     check_register_instance_type();

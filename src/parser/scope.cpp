@@ -21,7 +21,7 @@ std::unordered_map<std::string_view, brix_symrec*>& keyword_index() {
 
 brix_scope* new_scope(const char* name) {
     auto* scope = new (brix_new_record<brix_scope>()) brix_scope{};
-    scope->name = name != nullptr ? brix_arena_strdup(name) : nullptr;
+    scope->name = name;
     return scope;
 }
 
@@ -111,7 +111,7 @@ brix_scope* create_child_scope(brix_scope* parent, const char* name) {
     if (brix_scope* last = parent->last_child; last != nullptr && last->closed &&
                                                last->symbol_count == 0 &&
                                                last->first_child == nullptr) {
-        last->name = brix_arena_strdup(name);
+        last->name = name;
         last->closed = false;
         return last;
     }

@@ -20,7 +20,7 @@ struct brix_symrec {
 };
 
 struct brix_scope {
-    char* name; // null for the global scope
+    const char* name; // null for the global scope; kept, not copied
     // Heads of the bucket chains that hold this scope's own symbols, newest first, one
     // entry per bucket in use: most scopes (a field's) hold no symbol, so storage grows
     // with the symbols. The keywords, shared by every scope, are chained once, in the
@@ -48,6 +48,7 @@ unsigned brix_symbol_hash(const char* name);
 
 // Sets up the global scope with the keywords and resets the parser's state.
 void initialize();
+// The scope keeps `name` itself: it must live as long as the model.
 brix_scope* create_child_scope(brix_scope* parent, const char* name);
 // The newest of the scope's own symbols in a bucket, whose `next` leads to older ones.
 brix_symrec* scope_bucket_head(const brix_scope* scope, unsigned bucket);
