@@ -160,21 +160,6 @@ void take_coverage_models(const char* letters) {
     }
 }
 
-// Appends an -I value, made absolute, to the folders joined by ':'.
-void add_include_dir(const char* value) {
-    char* dir = get_absolute_path(value);
-    if (brix_inc_dirs == nullptr) {
-        brix_inc_dirs = dir;
-        return;
-    }
-    const std::size_t size = strlen(brix_inc_dirs) + strlen(dir) + 2;
-    char* joined = static_cast<char*>(malloc(size));
-    snprintf(joined, size, "%s:%s", brix_inc_dirs, dir);
-    free(brix_inc_dirs);
-    free(dir);
-    brix_inc_dirs = joined;
-}
-
 void take_option(int c, run_request& run) {
     switch (c) {
     case 't':
@@ -199,7 +184,7 @@ void take_option(int c, run_request& run) {
         brix_quiet_mode = 1;
         break;
     case 'I':
-        add_include_dir(optarg);
+        brix_add_include_dir(optarg);
         break;
     case 'o':
         ofile = optarg;
@@ -287,6 +272,20 @@ void write_outputs(const run_request& run) {
 }
 
 } // namespace
+
+void brix_add_include_dir(const char* value) {
+    char* dir = get_absolute_path(value);
+    if (brix_inc_dirs == nullptr) {
+        brix_inc_dirs = dir;
+        return;
+    }
+    const std::size_t size = strlen(brix_inc_dirs) + strlen(dir) + 2;
+    char* joined = static_cast<char*>(malloc(size));
+    snprintf(joined, size, "%s:%s", brix_inc_dirs, dir);
+    free(brix_inc_dirs);
+    free(dir);
+    brix_inc_dirs = joined;
+}
 
 void brix_read_model(const char* description_file, const char* top) {
     brix_name_pure_file();

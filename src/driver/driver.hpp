@@ -10,6 +10,9 @@ char* get_absolute_path(const char* path);
 // Fills pure_brix_file with the temporary file's name for this process.
 void brix_name_pure_file();
 
+// Appends an -I value, made absolute, to the folders joined by ':' in brix_inc_dirs.
+void brix_add_include_dir(const char* value);
+
 // The stages up to the checked model: the expansion into the temporary pure description,
 // the parse, the semantic checks of `top`. Any error ends the run; yyin is left open.
 void brix_read_model(const char* description_file, const char* top);

@@ -61,18 +61,6 @@ struct map_options {
     ipxact_vlnv vlnv;
 };
 
-void add_include_dir(const char* value) {
-    char* dir = get_absolute_path(value);
-    if (brix_inc_dirs == nullptr) {
-        brix_inc_dirs = dir;
-        return;
-    }
-    const std::string joined = std::string(brix_inc_dirs) + ":" + dir;
-    free(brix_inc_dirs);
-    free(dir);
-    brix_inc_dirs = strdup(joined.c_str());
-}
-
 void add_coverage(const char* letters) {
     for (const char* p = letters; *p != '\0'; ++p) {
         if (!brix_take_coverage_model(*p)) {
@@ -109,7 +97,7 @@ void read_option(int argc, char** argv, int& i, map_options& o) {
         }
         o.top = value_of(argc, argv, i);
     } else if (arg == "-I") {
-        add_include_dir(value_of(argc, argv, i));
+        brix_add_include_dir(value_of(argc, argv, i));
     } else if (arg == "-o" && !check) {
         o.output = value_of(argc, argv, i);
     } else if (arg == "-b" && check) {
