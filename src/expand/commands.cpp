@@ -191,13 +191,54 @@ int evaluate_body(Tcl_Obj* word) {
     return Tcl_Eval(brixgen_interp, Tcl_GetString(word));
 }
 
+// Whether description text may go straight to Tcl's channel: brix_direct_writes' answer,
+// asked again only once Tcl has run some command other than the description commands,
+// as nothing else can redefine or trace `puts` or touch the channel. Tcl counts every
+// command as it starts it.
+class direct_writes_cache {
+  public:
+    // At the start of each description command.
+    void command_started() {
+        unsigned now = 0;
+        known_ = known_ && brix_commands_run(&now) && now == count_ + 1;
+        count_ = now;
+    }
+    Tcl_Channel channel() {
+        if (!known_) {
+            channel_ = brix_direct_writes();
+            known_ = brix_commands_run(&count_);
+        }
+        return channel_;
+    }
+    // After an evaluation of anything.
+    Tcl_Channel after_eval() {
+        known_ = false;
+        return channel();
+    }
+    // After a body: the answer stands if each command in it was a description command,
+    // each having checked the count as it started.
+    Tcl_Channel after_body() {
+        unsigned now = 0;
+        known_ = known_ && brix_commands_run(&now) && now == count_;
+        return channel();
+    }
+    void forget() { known_ = false; }
+
+  private:
+    bool known_ = false;
+    unsigned count_ = 0;
+    Tcl_Channel channel_ = nullptr;
+};
+
+direct_writes_cache direct_writes;
+
 // Writes pure text through Tcl; after the first failed evaluation every later step is
 // skipped and status() reports the failure. Each piece is what evaluating a `puts` of it
 // writes; where that evaluation can only write the piece as it stands, pieces are
 // gathered and written to Tcl's channel in one go, before anything else can run.
 class pure_writer {
   public:
-    pure_writer() : direct_(brix_direct_writes()) {
+    pure_writer() : direct_(direct_writes.channel()) {
         if (spare_.empty()) {
             pending_.reserve(pending_capacity);
         } else {
@@ -215,12 +256,12 @@ class pure_writer {
     // Writes `text`; `script()` gives the `puts` that writes it. An evaluation that fails
     // stops the writer unless `ignored`.
     template <class Script> void put(std::string_view text, Script script, bool ignored = false) {
-        put_read(text, brix_plain_text(text), script, ignored);
+        put_read(text, brix_classify_text(text), script, ignored);
     }
-    // The same, for a text already known to be plain or not.
+    // The same, for a text already classified.
     template <class Script>
-    void put_read(std::string_view text, bool plain, Script script, bool ignored) {
-        if (failed_ || gather(text, plain)) {
+    void put_read(std::string_view text, brix_text_kind kind, Script script, bool ignored) {
+        if (failed_ || gather(text, kind)) {
             return;
         }
         drain();
@@ -231,7 +272,7 @@ class pure_writer {
     }
     void word(const char* text) {
         const std::size_t length = strlen(text);
-        if (failed_ || gather({text, length}, brix_plain_text({text, length}), " ")) {
+        if (failed_ || gather({text, length}, brix_classify_text({text, length}), ' ')) {
             return;
         }
         put(std::string(text, length) + ' ', [text, length] {
@@ -273,19 +314,20 @@ class pure_writer {
             if (part.empty() || failed_) {
                 continue;
             }
-            if (direct_ == nullptr || !brix_write_direct(direct_, part)) {
+            if (direct_ == nullptr || !brix_write_direct(direct_, part, ascii_)) {
                 // Let `puts` meet the failure again and report it as it does.
                 eval("puts -nonewline \"" + std::string(part) + "\"", false);
             }
         }
         pending_.clear();
         flushed_ = 0;
+        ascii_ = true;
     }
     // Evaluates a body, with what is gathered written first; its Check.
     int eval_body(Tcl_Obj* body) {
         drain();
         const int status = brix_check_result(evaluate_body(body));
-        direct_ = brix_direct_writes();
+        direct_ = direct_writes.after_body();
         return status;
     }
     bool failed() const { return failed_; }
@@ -295,16 +337,18 @@ class pure_writer {
     }
 
   private:
-    // Gathers `text` and `tail` when they may go straight to the channel; `plain` tells
-    // whether `text` is.
-    bool gather(std::string_view text, bool plain, std::string_view tail = {}) {
-        if (direct_ == nullptr || !plain || !brix_plain_text(tail)) {
+    // Gathers `text`, of the given kind, and a blank behind it when `tail` is one, when
+    // they may go straight to the channel.
+    bool gather(std::string_view text, brix_text_kind kind, char tail = '\0') {
+        if (direct_ == nullptr || !kind.plain) {
             return false;
         }
         pending_ += text;
-        pending_ += tail;
-        if (text.find('\n') != std::string_view::npos ||
-            tail.find('\n') != std::string_view::npos) {
+        if (tail != '\0') {
+            pending_ += tail;
+        }
+        ascii_ = ascii_ && kind.ascii;
+        if (text.find('\n') != std::string_view::npos) {
             flushed_ = pending_.size();
         }
         return true;
@@ -312,7 +356,7 @@ class pure_writer {
     void eval(const std::string& script, bool ignored) {
         const int status = brix_eval_checked(script);
         // The evaluation may have run any Tcl, `rename` and `close` among it.
-        direct_ = brix_direct_writes();
+        direct_ = direct_writes.after_eval();
         if (status != TCL_OK && !ignored) {
             failed_ = true;
         }
@@ -327,6 +371,7 @@ class pure_writer {
     Tcl_Channel direct_; // where plain pieces may go straight, or null
     std::string pending_;
     std::size_t flushed_ = 0; // end of the last piece with a newline in it
+    bool ascii_ = true;       // nothing gathered goes past ASCII
 };
 
 // The start of every declaration: its hash line, whose evaluation is not looked at, and
@@ -335,10 +380,10 @@ void start_declaration(pure_writer& w, lineno_cache_entry* where = nullptr) {
     // Kept from one declaration to the next for its storage; the `puts` is made from it
     // before anything is evaluated.
     static std::string text;
-    const bool plain = brix_hashline_text(text, where);
+    const brix_text_kind kind = brix_hashline_text(text, where);
     text += '\n';
     w.put_read(
-        text, plain, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
+        text, kind, [] { return "puts \"" + text.substr(0, text.size() - 1) + "\""; }, true);
     w.indent();
 }
 
@@ -549,6 +594,7 @@ int write_declaration(const description_command& cmd, int argc, const char** arg
 
 int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     const auto& cmd = *static_cast<const description_command*>(client_data);
+    direct_writes.command_started();
     // Declarations have a handful of words; the array is only for longer ones.
     constexpr int on_stack = 16;
     const char* few[on_stack];
@@ -570,6 +616,7 @@ void brix_register_description_commands() {
     // A new interpreter: its commands are all its own, and it compiles its own bodies.
     commands_replaced = false;
     bodies.clear();
+    direct_writes.forget();
     for (const description_command& cmd : description_commands) {
         Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
                              const_cast<description_command*>(&cmd), nullptr);

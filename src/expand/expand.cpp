@@ -208,17 +208,31 @@ Tcl_Obj* brix_cached_obj(const char* script) {
     return obj;
 }
 
+namespace {
+// Per byte: 1 where a double-quoted word substitutes or ends, 2 past ASCII.
+constexpr auto text_classes = [] {
+    std::array<unsigned char, 256> table{};
+    for (const unsigned char c : {'$', '[', '\\', '"'}) {
+        table[c] = 1;
+    }
+    for (int c = 0x80; c < 0x100; ++c) {
+        table[static_cast<std::size_t>(c)] = 2;
+    }
+    return table;
+}();
+} // namespace
+
+brix_text_kind brix_classify_text(std::string_view text) {
+    unsigned seen = 0;
+    for (const char c : text) {
+        seen |= text_classes[static_cast<unsigned char>(c)];
+    }
+    return {(seen & 1) == 0, (seen & 2) == 0};
+}
+
 bool brix_plain_text(std::string_view text) {
-    // In a double-quoted word only these substitute or end the word.
-    static constexpr auto special = [] {
-        std::array<bool, 256> table{};
-        for (const unsigned char c : {'$', '[', '\\', '"'}) {
-            table[c] = true;
-        }
-        return table;
-    }();
     return std::none_of(text.begin(), text.end(),
-                        [](char c) { return special[static_cast<unsigned char>(c)]; });
+                        [](char c) { return text_classes[static_cast<unsigned char>(c)] == 1; });
 }
 
 Tcl_Channel brix_direct_writes() {
@@ -238,8 +252,8 @@ Tcl_Channel brix_direct_writes() {
     return (mode & TCL_WRITABLE) != 0 ? out : nullptr;
 }
 
-bool brix_write_direct(Tcl_Channel out, std::string_view text) {
-    const bool unconverted = brix_passes_unconverted(out, text);
+bool brix_write_direct(Tcl_Channel out, std::string_view text, bool ascii) {
+    const bool unconverted = brix_passes_unconverted(out, text, ascii);
     if (unconverted && brix_hold_directly(out, text)) {
         Tcl_ResetResult(brixgen_interp);
         return true;

@@ -52,6 +52,12 @@ int brix_eval_checked(const std::string& script);
 Tcl_Obj* brix_cached_obj(const char* script);
 // Text that a `puts -nonewline "<text>"` writes as it stands: nothing in it substitutes.
 bool brix_plain_text(std::string_view text);
+// What one pass over a text tells: whether it is plain, and whether it is ASCII only.
+struct brix_text_kind {
+    bool plain = true;
+    bool ascii = true;
+};
+brix_text_kind brix_classify_text(std::string_view text);
 // The channel that such a `puts` would write to, when the `puts` is Tcl's own and the
 // channel writable, so that its text may be written straight to the channel instead;
 // else null. It stands until Tcl runs a script.
@@ -60,10 +66,15 @@ Tcl_Channel brix_direct_writes();
 Tcl_Channel brix_stdout_channel(int* mode);
 // Writes text straight to that channel, as such a `puts` would; false, when the write
 // fails, for the caller to evaluate the `puts` and report the failure as it does.
-bool brix_write_direct(Tcl_Channel out, std::string_view text);
+// `ascii` tells that the text is known to be ASCII only.
+bool brix_write_direct(Tcl_Channel out, std::string_view text, bool ascii = false);
 // True when the channel would write `text` as it stands (ASCII only, into an encoding
 // that keeps ASCII, newlines left alone), so that it may skip the conversion.
-bool brix_passes_unconverted(Tcl_Channel out, std::string_view text);
+bool brix_passes_unconverted(Tcl_Channel out, std::string_view text, bool ascii = false);
+// The number of commands the interpreter has run so far, counting each once as it
+// starts; false when that count is out of view, and every answer that stands "until Tcl
+// runs a script" must then be asked for again.
+bool brix_commands_run(unsigned* count);
 // Whether Tcl's private structures may be read: built with them, and the library running
 // is the release they were taken from. Set at set-up; the public paths serve otherwise.
 extern bool brix_tcl_internals;
@@ -113,8 +124,8 @@ void brix_clear_line_cache();
 // neither free nor keep. Returns 1 with *file_out untouched when a Tcl query fails.
 int get_current_brix_file_line_num(const char** file_out);
 // Sets `text` to the hash line of the command being run, without its newline. With
-// `where`, also hands back the place it names. True when the text is plain.
-bool brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
+// `where`, also hands back the place it names. Tells what kind of text it is.
+brix_text_kind brix_hashline_text(std::string& text, lineno_cache_entry* where = nullptr);
 
 int BRIX_proc(ClientData client_data, Tcl_Interp* interp, int argc, const char** argv);
 int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp, int argc,

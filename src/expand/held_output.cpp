@@ -250,6 +250,14 @@ Tcl_Channel brix_stdout_channel(int* mode) {
     return found;
 }
 
+bool brix_commands_run(unsigned* count) {
+    if (!brix_tcl_internals) {
+        return false;
+    }
+    *count = static_cast<unsigned>(reinterpret_cast<Interp*>(brixgen_interp)->cmdCount);
+    return true;
+}
+
 bool brix_untraced(Tcl_Command command) {
     return brix_tcl_internals && reinterpret_cast<Interp*>(brixgen_interp)->tracePtr == nullptr &&
            reinterpret_cast<Command*>(command)->tracePtr == nullptr;
@@ -257,7 +265,7 @@ bool brix_untraced(Tcl_Command command) {
 
 // The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
 // fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
-bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
+bool brix_passes_unconverted(Tcl_Channel out, std::string_view text, bool ascii) {
     if (!brix_tcl_internals) {
         return false;
     }
@@ -269,6 +277,9 @@ bool brix_passes_unconverted(Tcl_Channel out, std::string_view text) {
         std::find(std::begin(unchanged), std::end(unchanged), state->encoding) ==
             std::end(unchanged)) {
         return false;
+    }
+    if (ascii) {
+        return true;
     }
     // Eight bytes at a time: all the pure text passes here.
     std::uint64_t seen = 0;
@@ -322,7 +333,10 @@ bool brix_untraced(Tcl_Command) {
     return false;
 }
 // Without the channel's state in view, every write converts.
-bool brix_passes_unconverted(Tcl_Channel, std::string_view) {
+bool brix_passes_unconverted(Tcl_Channel, std::string_view, bool) {
+    return false;
+}
+bool brix_commands_run(unsigned*) {
     return false;
 }
 bool brix_hold_directly(Tcl_Channel, std::string_view) {

@@ -403,7 +403,7 @@ int get_current_brix_file_line_num(const char** file_out) {
     return finish(walk, file_out);
 }
 
-bool brix_hashline_text(std::string& text, lineno_cache_entry* where) {
+brix_text_kind brix_hashline_text(std::string& text, lineno_cache_entry* where) {
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
@@ -418,14 +418,14 @@ bool brix_hashline_text(std::string& text, lineno_cache_entry* where) {
     text.append(number, end);
     text += ' ';
     text += file;
-    // All but the file name is plain; the name is mostly the last one's.
+    // All but the file name is plain ASCII; the name is mostly the last one's.
     static std::string last_file;
-    static bool last_plain = true;
+    static brix_text_kind last_kind;
     if (last_file != file) {
         last_file = file;
-        last_plain = brix_plain_text(last_file);
+        last_kind = brix_classify_text(last_file);
     }
-    return last_plain;
+    return last_kind;
 }
 
 int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
