@@ -191,42 +191,56 @@ int evaluate_body(Tcl_Obj* word) {
     return Tcl_Eval(brixgen_interp, Tcl_GetString(word));
 }
 
-// Whether description text may go straight to Tcl's channel: brix_direct_writes' answer,
-// asked again only once Tcl has run some command other than the description commands,
-// as nothing else can redefine or trace `puts` or touch the channel. Tcl counts every
-// command as it starts it.
-class direct_writes_cache {
+// Counts the commands Tcl runs: while only description commands run, which change
+// neither Tcl's commands, nor their traces, nor its channels, what was found out about
+// them stands. The epoch moves on whenever anything else may have run.
+class quiet_stretch {
   public:
     // At the start of each description command.
-    void command_started() {
+    void command_started() { check(1); }
+    // After a body: each command in it was a description command and checked the count.
+    void body_ended() { check(0); }
+    // After an evaluation of this stage's own.
+    void evaluated() {
+        ++epoch_;
+        counted_ = brix_commands_run(&count_);
+    }
+    unsigned epoch() const { return epoch_; }
+
+  private:
+    void check(unsigned expected) {
         unsigned now = 0;
-        known_ = known_ && brix_commands_run(&now) && now == count_ + 1;
+        const bool counted = brix_commands_run(&now);
+        if (!counted || !counted_ || now != count_ + expected) {
+            ++epoch_;
+        }
+        counted_ = counted;
         count_ = now;
     }
+    bool counted_ = false;
+    unsigned count_ = 0;
+    unsigned epoch_ = 1;
+};
+
+quiet_stretch quiet;
+
+// brix_direct_writes' answer, asked again once the epoch or the namespace that `puts` is
+// looked up from has changed.
+class direct_writes_cache {
+  public:
     Tcl_Channel channel() {
-        if (!known_) {
+        Tcl_Namespace* const ns = Tcl_GetCurrentNamespace(brixgen_interp);
+        if (epoch_ != quiet.epoch() || ns != namespace_) {
             channel_ = brix_direct_writes();
-            known_ = brix_commands_run(&count_);
+            epoch_ = quiet.epoch();
+            namespace_ = ns;
         }
         return channel_;
     }
-    // After an evaluation of anything.
-    Tcl_Channel after_eval() {
-        known_ = false;
-        return channel();
-    }
-    // After a body: the answer stands if each command in it was a description command,
-    // each having checked the count as it started.
-    Tcl_Channel after_body() {
-        unsigned now = 0;
-        known_ = known_ && brix_commands_run(&now) && now == count_;
-        return channel();
-    }
-    void forget() { known_ = false; }
 
   private:
-    bool known_ = false;
-    unsigned count_ = 0;
+    unsigned epoch_ = 0;
+    Tcl_Namespace* namespace_ = nullptr;
     Tcl_Channel channel_ = nullptr;
 };
 
@@ -327,7 +341,8 @@ class pure_writer {
     int eval_body(Tcl_Obj* body) {
         drain();
         const int status = brix_check_result(evaluate_body(body));
-        direct_ = direct_writes.after_body();
+        quiet.body_ended();
+        direct_ = direct_writes.channel();
         return status;
     }
     bool failed() const { return failed_; }
@@ -356,7 +371,8 @@ class pure_writer {
     void eval(const std::string& script, bool ignored) {
         const int status = brix_eval_checked(script);
         // The evaluation may have run any Tcl, `rename` and `close` among it.
-        direct_ = direct_writes.after_eval();
+        quiet.evaluated();
+        direct_ = direct_writes.channel();
         if (status != TCL_OK && !ignored) {
             failed_ = true;
         }
@@ -594,7 +610,7 @@ int write_declaration(const description_command& cmd, int argc, const char** arg
 
 int run_description_command(ClientData client_data, Tcl_Interp*, int objc, Tcl_Obj* const objv[]) {
     const auto& cmd = *static_cast<const description_command*>(client_data);
-    direct_writes.command_started();
+    quiet.command_started();
     // Declarations have a handful of words; the array is only for longer ones.
     constexpr int on_stack = 16;
     const char* few[on_stack];
@@ -616,13 +632,17 @@ void brix_register_description_commands() {
     // A new interpreter: its commands are all its own, and it compiles its own bodies.
     commands_replaced = false;
     bodies.clear();
-    direct_writes.forget();
+    quiet.evaluated();
     for (const description_command& cmd : description_commands) {
         Tcl_CreateObjCommand(brixgen_interp, cmd.name, run_description_command,
                              const_cast<description_command*>(&cmd), nullptr);
         Tcl_TraceCommand(brixgen_interp, cmd.name, TCL_TRACE_RENAME | TCL_TRACE_DELETE,
                          note_replaced, nullptr);
     }
+}
+
+unsigned brix_tcl_state_epoch() {
+    return quiet.epoch();
 }
 
 bool brix_placed_like_declaration(std::string_view name) {

@@ -133,6 +133,10 @@ int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp,
 
 // Registers the 29 description commands.
 void brix_register_description_commands();
+// Moves on whenever the interpreter may have run anything but description commands, which
+// change neither Tcl's commands, nor their traces, nor its channels: what was found out
+// about those in one epoch stands through it.
+unsigned brix_tcl_state_epoch();
 // True for the name of a description command or `proc`, whose lines the line tracking
 // adds up.
 bool brix_placed_like_declaration(std::string_view name);

@@ -118,14 +118,24 @@ const Tcl_CmdInfo* own_info_frame() {
     static Tcl_Obj* const info = brix_cached_obj("info");
     static Tcl_Command tcl_info = nullptr;
     static Tcl_CmdInfo tcl_frame{};
+    // The last answer, while nothing can have changed it.
+    static unsigned epoch = 0;
+    static Tcl_Namespace* looked_up_from = nullptr;
+    static const Tcl_CmdInfo* found = nullptr;
     if (tcl_info == nullptr) {
         tcl_info = Tcl_FindCommand(brixgen_interp, "::info", nullptr, TCL_GLOBAL_ONLY);
         Tcl_GetCommandInfo(brixgen_interp, "::tcl::info::frame", &tcl_frame);
     }
-    if (tcl_frame.objProc == nullptr || Tcl_GetCommandFromObj(brixgen_interp, info) != tcl_info) {
-        return nullptr;
+    Tcl_Namespace* const ns = Tcl_GetCurrentNamespace(brixgen_interp);
+    if (epoch != brix_tcl_state_epoch() || ns != looked_up_from) {
+        found = tcl_frame.objProc != nullptr &&
+                        Tcl_GetCommandFromObj(brixgen_interp, info) == tcl_info
+                    ? &tcl_frame
+                    : nullptr;
+        epoch = brix_tcl_state_epoch();
+        looked_up_from = ns;
     }
-    return &tcl_frame;
+    return found;
 }
 
 bool query_failed(int status) {
@@ -186,6 +196,7 @@ struct frame_walk {
     const char* file = nullptr;
     bool done = false;
     int depth = 0; // the level of the command's own frame
+    bool queried = false; // read through `info frame` queries
 };
 
 // Places the procedure body a frame of type "proc" runs in from the procedure's definition.
@@ -241,7 +252,10 @@ void step(frame_walk& walk, const frame_info& frame) {
 
 // The place the walk ends at: the anchored script, or a procedure's definition.
 int finish(frame_walk& walk, const char** file_out) {
-    Tcl_ResetResult(brixgen_interp);
+    // Reading the frames in place leaves the result alone; the queries' answers go.
+    if (walk.queried) {
+        Tcl_ResetResult(brixgen_interp);
+    }
     if (walk.file == nullptr) {
         if (walk.anchor == nullptr) {
             walk.file = reading_brix_file;
@@ -261,6 +275,7 @@ int anchor_level() {
 
 // The walk on the answers of `info frame`; false when a query fails.
 bool walk_queried(frame_walk& walk) {
+    walk.queried = true;
     walk.depth = queried_depth();
     if (walk.depth < 0) {
         return false;
