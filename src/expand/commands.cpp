@@ -281,8 +281,10 @@ class pure_writer {
         drain();
         eval(script(), ignored);
     }
+    // A fixed piece of this file's own, plain ASCII.
     void put(std::string_view text, const char* script) {
-        put(text, [script] { return std::string(script); });
+        put_read(
+            text, brix_text_kind{}, [script] { return std::string(script); }, false);
     }
     void word(const char* text) {
         const std::size_t length = strlen(text);
@@ -315,7 +317,8 @@ class pure_writer {
         if (brix_level > 0) {
             static std::string tabs; // kept for its storage
             tabs.assign(static_cast<std::size_t>(brix_level), '\t');
-            put(tabs, [] { return "puts -nonewline \"" + tabs + "\""; });
+            put_read(
+                tabs, brix_text_kind{}, [] { return "puts -nonewline \"" + tabs + "\""; }, false);
         }
     }
     void newline() { put("\n", "puts \"\""); }

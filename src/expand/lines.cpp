@@ -128,10 +128,10 @@ const Tcl_CmdInfo* own_info_frame() {
     }
     Tcl_Namespace* const ns = Tcl_GetCurrentNamespace(brixgen_interp);
     if (epoch != brix_tcl_state_epoch() || ns != looked_up_from) {
-        found = tcl_frame.objProc != nullptr &&
-                        Tcl_GetCommandFromObj(brixgen_interp, info) == tcl_info
-                    ? &tcl_frame
-                    : nullptr;
+        found =
+            tcl_frame.objProc != nullptr && Tcl_GetCommandFromObj(brixgen_interp, info) == tcl_info
+                ? &tcl_frame
+                : nullptr;
         epoch = brix_tcl_state_epoch();
         looked_up_from = ns;
     }
@@ -195,7 +195,7 @@ struct frame_walk {
     bool after_lambda = false;
     const char* file = nullptr;
     bool done = false;
-    int depth = 0; // the level of the command's own frame
+    int depth = 0;        // the level of the command's own frame
     bool queried = false; // read through `info frame` queries
 };
 
@@ -427,17 +427,22 @@ brix_text_kind brix_hashline_text(std::string& text, lineno_cache_entry* where) 
     if (where != nullptr) {
         *where = {placed_depth, line, file};
     }
+    const std::string_view file_name(file);
+    // "BRIX_HASHLINE <line> ", written over the text's own storage.
+    constexpr std::string_view head = "BRIX_HASHLINE ";
     char number[16];
-    char* end = std::to_chars(number, number + sizeof number, line).ptr;
-    text.assign("BRIX_HASHLINE ");
-    text.append(number, end);
-    text += ' ';
-    text += file;
+    const std::size_t digits =
+        static_cast<std::size_t>(std::to_chars(number, number + sizeof number, line).ptr - number);
+    text.resize(head.size() + digits + 1 + file_name.size());
+    char* out = std::copy(head.begin(), head.end(), text.data());
+    out = std::copy(number, number + digits, out);
+    *out++ = ' ';
+    std::copy(file_name.begin(), file_name.end(), out);
     // All but the file name is plain ASCII; the name is mostly the last one's.
     static std::string last_file;
     static brix_text_kind last_kind;
-    if (last_file != file) {
-        last_file = file;
+    if (last_file != file_name) {
+        last_file = file_name;
         last_kind = brix_classify_text(last_file);
     }
     return last_kind;
