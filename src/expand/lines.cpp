@@ -24,7 +24,9 @@
 #include <string_view>
 #include <vector>
 #if BRIX_TCL_PRIVATE
+#include <tclCompile.h>
 #include <tclInt.h>
+#include <unordered_map>
 #endif
 
 bool brix_tcl_internals = BRIX_TCL_PRIVATE != 0;
@@ -301,6 +303,150 @@ std::string_view frame_command(const CmdFrame& frame) {
     return {};
 }
 
+// Tcl finds the command that a bytecode frame stands at, and its line, by walking the
+// body's tables from their start: in a body of n commands that is n steps for each, n²
+// for all. Here each body's tables are read once, and kept while the body is the same.
+class bytecode_places {
+  public:
+    // Sets the frame's command, line and type, as TclGetSrcInfoForPc does; false where
+    // these tables cannot tell, for Tcl to do it.
+    bool locate(CmdFrame& frame) {
+        const auto* code = static_cast<const ByteCode*>(frame.data.tebc.codePtr);
+        if (bodies_.size() >= most) {
+            bodies_.clear();
+        }
+        decoded& body = bodies_[code];
+        if (!body.describes(code)) {
+            body = decode(code);
+        }
+        const char* cmd = frame.cmd;
+        int length = frame.len;
+        if (cmd == nullptr && !body.command_at(code, frame.data.tebc.pc, cmd, length)) {
+            return false;
+        }
+        const int src_offset = static_cast<int>(cmd - code->source);
+        const auto* interp = reinterpret_cast<Interp*>(brixgen_interp);
+        Tcl_HashEntry* entry =
+            Tcl_FindHashEntry(interp->lineBCPtr, reinterpret_cast<const char*>(code));
+        const ECL* loc = nullptr;
+        const ExtCmdLoc* ecl = nullptr;
+        if (entry != nullptr) {
+            ecl = static_cast<const ExtCmdLoc*>(Tcl_GetHashValue(entry));
+            loc = body.loc_at(ecl, src_offset);
+            if (loc == nullptr) {
+                return false;
+            }
+        }
+        frame.cmd = cmd;
+        frame.len = length;
+        if (loc != nullptr) {
+            frame.line = loc->line;
+            frame.nline = loc->nline;
+            frame.type = ecl->type;
+            if (ecl->type == TCL_LOCATION_SOURCE) {
+                frame.data.eval.path = ecl->path;
+                Tcl_IncrRefCount(frame.data.eval.path);
+            }
+        }
+        return true;
+    }
+
+  private:
+    struct span {
+        int code_offset;
+        int code_end; // last byte
+        int src_offset;
+        int src_length;
+    };
+    struct decoded {
+        // What tells this body from a later one at the same address.
+        const char* source = nullptr;
+        const unsigned char* code_start = nullptr;
+        const Namespace* ns = nullptr;
+        int sizes[5] = {};
+        std::vector<span> commands; // by code offset, as Tcl keeps them
+        // The word locations: their first entry for each source offset.
+        const ExtCmdLoc* ecl = nullptr;
+        int used = -1;
+        std::unordered_map<int, int> loc_of;
+
+        bool describes(const ByteCode* code) const {
+            const int now[5] = {code->numSrcBytes, code->numCodeBytes, code->numCommands,
+                                code->compileEpoch, code->nsEpoch};
+            return source == code->source && code_start == code->codeStart && ns == code->nsPtr &&
+                   std::equal(std::begin(now), std::end(now), sizes);
+        }
+        // The innermost command whose code holds pc: of those, the one starting last.
+        bool command_at(const ByteCode* code, const char* pc, const char*& cmd, int& length) const {
+            const int offset =
+                static_cast<int>(reinterpret_cast<const unsigned char*>(pc) - code->codeStart);
+            auto it = std::upper_bound(
+                commands.begin(), commands.end(), offset,
+                [](int at, const span& command) { return at < command.code_offset; });
+            while (it != commands.begin()) {
+                --it;
+                if (offset <= it->code_end) {
+                    cmd = code->source + it->src_offset;
+                    length = it->src_length;
+                    return true;
+                }
+            }
+            return false;
+        }
+        const ECL* loc_at(const ExtCmdLoc* table, int src_offset) {
+            if (table != ecl || table->nuloc != used) {
+                ecl = table;
+                used = table->nuloc;
+                loc_of.clear();
+                for (int i = 0; i < table->nuloc; ++i) {
+                    loc_of.try_emplace(table->loc[i].srcOffset, i);
+                }
+            }
+            const auto found = loc_of.find(src_offset);
+            return found == loc_of.end() ? nullptr : &table->loc[found->second];
+        }
+    };
+
+    // One entry of the command tables: a byte, or 0xFF and four bytes, big end first.
+    static int next_number(const unsigned char*& p) {
+        if (*p != 0xFF) {
+            return static_cast<signed char>(*p++);
+        }
+        const int value = static_cast<int>((unsigned(p[1]) << 24) | (unsigned(p[2]) << 16) |
+                                           (unsigned(p[3]) << 8) | unsigned(p[4]));
+        p += 5;
+        return value;
+    }
+    static decoded decode(const ByteCode* code) {
+        decoded body;
+        body.source = code->source;
+        body.code_start = code->codeStart;
+        body.ns = code->nsPtr;
+        const int sizes[5] = {code->numSrcBytes, code->numCodeBytes, code->numCommands,
+                              code->compileEpoch, code->nsEpoch};
+        std::copy(std::begin(sizes), std::end(sizes), body.sizes);
+        body.commands.reserve(static_cast<std::size_t>(code->numCommands));
+        const unsigned char* code_delta = code->codeDeltaStart;
+        const unsigned char* code_length = code->codeLengthStart;
+        const unsigned char* src_delta = code->srcDeltaStart;
+        const unsigned char* src_length = code->srcLengthStart;
+        int code_offset = 0;
+        int src_offset = 0;
+        for (int i = 0; i < code->numCommands; ++i) {
+            code_offset += next_number(code_delta);
+            const int code_end = code_offset + next_number(code_length) - 1;
+            src_offset += next_number(src_delta);
+            body.commands.push_back({code_offset, code_end, src_offset, next_number(src_length)});
+        }
+        return body;
+    }
+
+    static constexpr std::size_t most = 4096;
+    std::unordered_map<const ByteCode*, decoded> bodies_;
+};
+
+bytecode_places bytecode_frames;
+
 // Reads one frame where `info frame` reads it and as it reads it, without building the
 // answer, whose objects would cost more than all the rest. False for a frame of a kind
 // this reading does not know.
@@ -323,7 +469,9 @@ bool read_frame(const CmdFrame& frame, frame_info& out) {
     case TCL_LOCATION_PREBC:
         break;
     case TCL_LOCATION_BC:
-        TclGetSrcInfoForPc(&where);
+        if (!bytecode_frames.locate(where)) {
+            TclGetSrcInfoForPc(&where);
+        }
         if (where.type == TCL_LOCATION_SOURCE) {
             Tcl_DecrRefCount(where.data.eval.path);
             out.line = where.line != nullptr ? where.line[0] : 1;
