@@ -5,6 +5,8 @@
 // first and left as they stand.
 #include "expand/expand.hpp"
 
+#include <cstring>
+
 namespace {
 
 // Character classes of the plain locale, whatever locale Tcl may have set.
@@ -65,8 +67,18 @@ struct constraint_finder {
 
 std::string protect_brix_subscripts(const char* text) {
     std::string out;
+    out.reserve(strlen(text));
     constraint_finder finder;
     for (const char* p = text; *p != '\0';) {
+        if (finder.state == 0) {
+            // Nothing under way: only a bracket or the start of the keyword is looked at.
+            const std::size_t plain = strcspn(p, "[c");
+            out.append(p, plain);
+            p += plain;
+            if (*p == '\0') {
+                break;
+            }
+        }
         finder.step(text, p);
         if (*p != '[' || finder.in_body) {
             out += *p++;
