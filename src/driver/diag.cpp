@@ -204,6 +204,30 @@ std::vector<std::pair<FILE*, std::string>>& open_outputs() {
     return outputs;
 }
 
+// Generated files run to hundreds of megabytes: written in big pieces, they cost far
+// fewer system calls than in stdio's pages. The buffers are static, as a stream still
+// open at exit is flushed after every destructor has run.
+constexpr std::size_t big_buffer_size = std::size_t{1} << 20;
+constexpr int big_buffer_count = 4;
+char big_buffers[big_buffer_count][big_buffer_size];
+FILE* big_buffer_users[big_buffer_count] = {};
+
+void use_big_buffer(FILE* fp) {
+    for (int i = 0; i < big_buffer_count; ++i) {
+        if (big_buffer_users[i] == nullptr) {
+            if (setvbuf(fp, big_buffers[i], _IOFBF, big_buffer_size) == 0) {
+                big_buffer_users[i] = fp;
+            }
+            return;
+        }
+    }
+}
+
+void release_big_buffer(FILE* fp) {
+    std::replace(std::begin(big_buffer_users), std::end(big_buffer_users), fp,
+                 static_cast<FILE*>(nullptr));
+}
+
 std::string output_name(FILE* fp) {
     for (const auto& [stream, name] : open_outputs()) {
         if (stream == fp) {
@@ -217,9 +241,7 @@ std::string output_name(FILE* fp) {
 FILE* brix_open_output(const std::string& name) {
     FILE* fp = fopen(name.c_str(), "w");
     if (fp != nullptr) {
-        // Generated files run to hundreds of megabytes: written in big pieces, they cost
-        // far fewer system calls than in stdio's pages.
-        setvbuf(fp, nullptr, _IOFBF, std::size_t{1} << 20);
+        use_big_buffer(fp);
         open_outputs().emplace_back(fp, name);
     }
     return fp;
@@ -246,7 +268,9 @@ void brix_close_output(FILE*& fp) {
     errno = 0;
     const bool failed = fflush(stream) != 0 || ferror(stream) != 0;
     const int error = errno;
-    if (fclose(stream) != 0 || failed) {
+    const bool closed = fclose(stream) == 0;
+    release_big_buffer(stream);
+    if (!closed || failed) {
         brix_write_failed(name.c_str(), error != 0 ? error : errno);
     }
 }
