@@ -268,9 +268,9 @@ void brix_close_output(FILE*& fp) {
     errno = 0;
     const bool failed = fflush(stream) != 0 || ferror(stream) != 0;
     const int error = errno;
-    const bool closed = fclose(stream) == 0;
+    // The slot is free from here; the stream uses its buffer until fclose returns.
     release_big_buffer(stream);
-    if (!closed || failed) {
+    if (fclose(stream) != 0 || failed) {
         brix_write_failed(name.c_str(), error != 0 ? error : errno);
     }
 }
