@@ -644,6 +644,10 @@ void brix_register_description_commands() {
     }
 }
 
+void brix_forget_bodies() {
+    bodies.clear();
+}
+
 unsigned brix_tcl_state_epoch() {
     return quiet.epoch();
 }

@@ -375,6 +375,7 @@ void expand_tcl_constructs(const char* description_file, const char* pure_file) 
     execute_brix_file(base);
 
     brix_clear_line_cache();
+    brix_forget_bodies();
     free_str2str_map(all_procs_location_info, 1);
 
     // What stdio still holds is left for the user's standard output.

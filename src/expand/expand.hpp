@@ -133,6 +133,8 @@ int brix_parse_info_frame_level_info(ClientData client_data, Tcl_Interp* interp,
 
 // Registers the 29 description commands.
 void brix_register_description_commands();
+// Lets go of the bodies kept for reuse, once the description has run.
+void brix_forget_bodies();
 // Moves on whenever the interpreter may have run anything but description commands, which
 // change neither Tcl's commands, nor their traces, nor its channels: what was found out
 // about those in one epoch stands through it.

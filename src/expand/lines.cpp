@@ -55,6 +55,9 @@ struct frame_info {
 // The frame the frame parser read last.
 frame_info parsed_frame;
 
+// Drops what was kept about the interpreter's compiled bodies.
+void forget_bytecode_frames();
+
 } // namespace
 
 void brix_push_line_anchor(lineno_cache_entry entry) {
@@ -65,6 +68,7 @@ void brix_pop_line_anchor() {
 }
 void brix_clear_line_cache() {
     lineno_cache.clear();
+    forget_bytecode_frames();
 }
 
 // Receives the key-value words of one `info frame` answer. 8.6 orders the keys by frame
@@ -365,10 +369,10 @@ class bytecode_places {
         const Namespace* ns = nullptr;
         int sizes[5] = {};
         std::vector<span> commands; // by code offset, as Tcl keeps them
-        // The word locations: their first entry for each source offset.
+        // The word locations: (source offset, entry) by offset, the first entry first.
         const ExtCmdLoc* ecl = nullptr;
         int used = -1;
-        std::unordered_map<int, int> loc_of;
+        std::vector<std::pair<int, int>> loc_of;
 
         bool describes(const ByteCode* code) const {
             const int now[5] = {code->numSrcBytes, code->numCodeBytes, code->numCommands,
@@ -398,12 +402,16 @@ class bytecode_places {
                 ecl = table;
                 used = table->nuloc;
                 loc_of.clear();
+                loc_of.reserve(static_cast<std::size_t>(table->nuloc));
                 for (int i = 0; i < table->nuloc; ++i) {
-                    loc_of.try_emplace(table->loc[i].srcOffset, i);
+                    loc_of.emplace_back(table->loc[i].srcOffset, i);
                 }
+                std::sort(loc_of.begin(), loc_of.end());
             }
-            const auto found = loc_of.find(src_offset);
-            return found == loc_of.end() ? nullptr : &table->loc[found->second];
+            const auto found =
+                std::lower_bound(loc_of.begin(), loc_of.end(), std::pair{src_offset, 0});
+            return found == loc_of.end() || found->first != src_offset ? nullptr
+                                                                       : &table->loc[found->second];
         }
     };
 
@@ -443,9 +451,16 @@ class bytecode_places {
 
     static constexpr std::size_t most = 4096;
     std::unordered_map<const ByteCode*, decoded> bodies_;
+
+  public:
+    void clear() { bodies_.clear(); }
 };
 
 bytecode_places bytecode_frames;
+
+void forget_bytecode_frames() {
+    bytecode_frames.clear();
+}
 
 // Reads one frame where `info frame` reads it and as it reads it, without building the
 // answer, whose objects would cost more than all the rest. False for a frame of a kind
@@ -532,6 +547,7 @@ int current_depth() {
     return queried_depth();
 }
 #else
+void forget_bytecode_frames() {}
 bool walk_directly(frame_walk&) {
     return false;
 }
