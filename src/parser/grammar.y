@@ -6,6 +6,7 @@
 }
 
 %code top {
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -51,6 +52,9 @@ static const char* brix_bison_text(const char* text) {
 /* Single characters stand for themselves; listing them here fixes their order in the
    "expecting" part of a syntax error. */
 %token '.' ':' '%' '[' ']' ',' '@' '=' '{' '}' '(' ')' '+'
+/* A well-formed hash line, read by the scanner as a whole. It stands wherever HASHLINE
+   does and shows as HASHLINE in a syntax error. */
+%token WHOLE_HASHLINE
 
 %type <str> hdl_path_identifier hdl_path_identifier_contd hdl_path_array_subscript
 %type <str> offset offset_value increment number optional_identifier enum_const_initializer
@@ -88,6 +92,7 @@ brix_global_entry
 
 hash_line_declaration
     : HASHLINE LINENUM { tmpbrixflag_first_line_read_after_hashline = 0; } FILENAME
+    | WHOLE_HASHLINE
     ;
 
 /* hdl paths ---------------------------------------------------------------------------- */
@@ -786,6 +791,9 @@ const char* brix_token_name(yysymbol_kind_t symbol) {
     if (symbol == YYSYMBOL_YYUNDEF) {
         return "$undefined";
     }
+    if (symbol == YYSYMBOL_WHOLE_HASHLINE) {
+        return "HASHLINE";
+    }
     return yysymbol_name(symbol);
 }
 } // namespace
@@ -799,8 +807,11 @@ static int yyreport_syntax_error(const yypcontext_t* ctx) {
     }
     std::string message = "syntax error, unexpected ";
     message += brix_token_name(yypcontext_token(ctx));
-    yysymbol_kind_t expected[max_expected + 1];
-    const int count = yypcontext_expected_tokens(ctx, expected, max_expected + 1);
+    // The whole hash line is always expected along with HASHLINE: it is not listed.
+    yysymbol_kind_t expected[YYNTOKENS];
+    const int all = yypcontext_expected_tokens(ctx, expected, YYNTOKENS);
+    const int count = static_cast<int>(
+        std::remove(expected, expected + all, YYSYMBOL_WHOLE_HASHLINE) - expected);
     if (count > 0 && count <= max_expected) {
         for (int i = 0; i < count; ++i) {
             message += i == 0 ? ", expecting " : " or ";

@@ -73,6 +73,10 @@ TEST(Scanner, UnreadRadixFormsLeaveTheApostropheOnStdout) {
     r = scan("4'B1");
     EXPECT_EQ(r.tokens, (std::vector<token>{{DECIMAL_INT, "4"}, {IDENTIFIER, "B1"}}));
     EXPECT_EQ(r.echoed, "'");
+    r = scan("7' 'd_ 'o8");
+    EXPECT_EQ(r.tokens,
+              (std::vector<token>{{DECIMAL_INT, "7"}, {NUMBER, "'d_"}, {IDENTIFIER, "o8"}}));
+    EXPECT_EQ(r.echoed, "''");
 }
 
 TEST(Scanner, BackquoteStartsAnIdentifierOnly) {
@@ -110,6 +114,9 @@ TEST(Scanner, CoverTakesOnlyItsSpecAndDropsTheRest) {
     scan_result r = scan("cover = +b-a field");
     EXPECT_EQ(r.tokens, (std::vector<token>{{COVER, ""}, {COVER_SPEC, "+b-a"}, {FIELD, ""}}));
     EXPECT_EQ(r.echoed, "=");
+    // A trailing sign is not part of the spec.
+    EXPECT_EQ(tokens_of("cover -f+x"),
+              (std::vector<token>{{COVER, ""}, {COVER_SPEC, "-f"}, {'+', ""}, {IDENTIFIER, "x"}}));
 }
 
 TEST(Scanner, AttributesHaveTheirOwnWords) {
@@ -127,14 +134,29 @@ TEST(Scanner, AttributesHaveTheirOwnWords) {
 }
 
 TEST(Scanner, HashLinesSetThePlaceAndTheirOwnNewlineDoesNotCount) {
-    scan_result r = scan("BRIX_HASHLINE 12 dir/top.brix");
-    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    // A whole hash line is one token; its place holds from the next token on.
+    initialize();
+    brix_scanner_use_string("BRIX_HASHLINE 12 dir/top.brix\na\nb");
+    brix_src_file_linenum = 3;
+    EXPECT_EQ(yylex(), WHOLE_HASHLINE);
+    EXPECT_EQ(brix_src_file_linenum, 3u);
+    EXPECT_EQ(yylex(), IDENTIFIER);
     EXPECT_STREQ(brix_src_file_name, "dir/top.brix");
     EXPECT_EQ(brix_src_file_linenum, 12u);
-    // All digits is a line number, digits and letters a file name.
+    EXPECT_EQ(yylex(), IDENTIFIER);
+    EXPECT_EQ(brix_src_file_linenum, 13u);
+    // Other shapes come token by token: all digits is a line number, digits and letters
+    // a file name.
+    scan_result r = scan("BRIX_HASHLINE\t7\n dir/top.brix");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    EXPECT_EQ(brix_src_file_linenum, 7u);
     r = scan("BRIX_HASHLINE 12x");
     EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {FILENAME, ""}}));
     EXPECT_STREQ(brix_src_file_name, "12x");
+    r = scan("BRIX_HASHLINE 1 2 3x");
+    EXPECT_EQ(r.tokens,
+              (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    EXPECT_EQ(tokens_of("BRIX_HASHLINEx"), (std::vector<token>{{IDENTIFIER, "BRIX_HASHLINEx"}}));
 }
 
 TEST(Scanner, NewlinesInBodiesAndStringsCount) {
