@@ -77,6 +77,8 @@ static const char* brix_bison_text(const char* text) {
 brix_global_entries
     : brix_global_entry
     | brix_global_entries brix_global_entry
+    | WHOLE_HASHLINE
+    | brix_global_entries WHOLE_HASHLINE
     ;
 
 brix_global_entry
@@ -90,9 +92,11 @@ brix_global_entry
     | hash_line_declaration
     ;
 
+/* A hash line stands as a whole entry or property wherever the rule below does. A whole
+   one is an element of each list by itself, which takes the parser two steps where the
+   rule takes four. */
 hash_line_declaration
     : HASHLINE LINENUM { tmpbrixflag_first_line_read_after_hashline = 0; } FILENAME
-    | WHOLE_HASHLINE
     ;
 
 /* hdl paths ---------------------------------------------------------------------------- */
@@ -197,6 +201,8 @@ field_properties
 nonempty_field_properties
     : field_property
     | nonempty_field_properties field_property
+    | WHOLE_HASHLINE
+    | nonempty_field_properties WHOLE_HASHLINE
     ;
 
 field_property
@@ -299,6 +305,8 @@ register_properties
 nonempty_register_properties
     : register_property
     | nonempty_register_properties register_property
+    | WHOLE_HASHLINE
+    | nonempty_register_properties WHOLE_HASHLINE
     ;
 
 register_property
@@ -342,6 +350,8 @@ vregister_properties
 nonempty_vregister_properties
     : vregister_property
     | nonempty_vregister_properties vregister_property
+    | WHOLE_HASHLINE
+    | nonempty_vregister_properties WHOLE_HASHLINE
     ;
 
 vregister_property
@@ -376,6 +386,8 @@ cross_spec_body
 cross_spec_body_elements
     : cross_spec_body_element
     | cross_spec_body_elements cross_spec_body_element
+    | WHOLE_HASHLINE
+    | cross_spec_body_elements WHOLE_HASHLINE
     ;
 
 cross_spec_body_element
@@ -386,6 +398,8 @@ cross_spec_body_element
 bins_specifications
     : bins_specification
     | bins_specifications bins_specification
+    | WHOLE_HASHLINE
+    | bins_specifications WHOLE_HASHLINE
     ;
 
 bins_specification
@@ -442,6 +456,8 @@ memory_properties
 nonempty_memory_properties
     : memory_property
     | nonempty_memory_properties memory_property
+    | WHOLE_HASHLINE
+    | nonempty_memory_properties WHOLE_HASHLINE
     ;
 
 memory_property
@@ -501,6 +517,8 @@ regfile_properties
 nonempty_regfile_properties
     : regfile_property
     | nonempty_regfile_properties regfile_property
+    | WHOLE_HASHLINE
+    | nonempty_regfile_properties WHOLE_HASHLINE
     ;
 
 regfile_property
@@ -552,6 +570,8 @@ global_block_definition
 block_or_domain_properties
     : block_or_domain_property
     | block_or_domain_properties block_or_domain_property
+    | WHOLE_HASHLINE
+    | block_or_domain_properties WHOLE_HASHLINE
     ;
 
 /* `doc` and `cover` at block level belong to the block type and open no default domain. */
@@ -577,6 +597,8 @@ domain_block_properties
 nonempty_domain_block_properties
     : nonempty_domain_block_property
     | nonempty_domain_block_properties nonempty_domain_block_property
+    | WHOLE_HASHLINE
+    | nonempty_domain_block_properties WHOLE_HASHLINE
     ;
 
 nonempty_domain_block_property
@@ -686,6 +708,8 @@ global_system_definition
 system_or_domain_properties
     : system_or_domain_property
     | system_or_domain_properties system_or_domain_property
+    | WHOLE_HASHLINE
+    | system_or_domain_properties WHOLE_HASHLINE
     ;
 
 system_or_domain_property
@@ -710,6 +734,8 @@ domain_system_properties
 nonempty_domain_system_properties
     : nonempty_domain_system_property
     | nonempty_domain_system_properties nonempty_domain_system_property
+    | WHOLE_HASHLINE
+    | nonempty_domain_system_properties WHOLE_HASHLINE
     ;
 
 nonempty_domain_system_property
