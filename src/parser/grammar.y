@@ -6,6 +6,7 @@
 }
 
 %code top {
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -51,6 +52,9 @@ static const char* brix_bison_text(const char* text) {
 /* Single characters stand for themselves; listing them here fixes their order in the
    "expecting" part of a syntax error. */
 %token '.' ':' '%' '[' ']' ',' '@' '=' '{' '}' '(' ')' '+'
+/* A well-formed hash line, read by the scanner as a whole. It stands wherever HASHLINE
+   does and shows as HASHLINE in a syntax error. */
+%token WHOLE_HASHLINE
 
 %type <str> hdl_path_identifier hdl_path_identifier_contd hdl_path_array_subscript
 %type <str> offset offset_value increment number optional_identifier enum_const_initializer
@@ -73,6 +77,8 @@ static const char* brix_bison_text(const char* text) {
 brix_global_entries
     : brix_global_entry
     | brix_global_entries brix_global_entry
+    | WHOLE_HASHLINE
+    | brix_global_entries WHOLE_HASHLINE
     ;
 
 brix_global_entry
@@ -86,6 +92,9 @@ brix_global_entry
     | hash_line_declaration
     ;
 
+/* A hash line stands as a whole entry or property wherever the rule below does. A whole
+   one is an element of each list by itself, which takes the parser two steps where the
+   rule takes four. */
 hash_line_declaration
     : HASHLINE LINENUM { tmpbrixflag_first_line_read_after_hashline = 0; } FILENAME
     ;
@@ -192,6 +201,8 @@ field_properties
 nonempty_field_properties
     : field_property
     | nonempty_field_properties field_property
+    | WHOLE_HASHLINE
+    | nonempty_field_properties WHOLE_HASHLINE
     ;
 
 field_property
@@ -294,6 +305,8 @@ register_properties
 nonempty_register_properties
     : register_property
     | nonempty_register_properties register_property
+    | WHOLE_HASHLINE
+    | nonempty_register_properties WHOLE_HASHLINE
     ;
 
 register_property
@@ -337,6 +350,8 @@ vregister_properties
 nonempty_vregister_properties
     : vregister_property
     | nonempty_vregister_properties vregister_property
+    | WHOLE_HASHLINE
+    | nonempty_vregister_properties WHOLE_HASHLINE
     ;
 
 vregister_property
@@ -371,6 +386,8 @@ cross_spec_body
 cross_spec_body_elements
     : cross_spec_body_element
     | cross_spec_body_elements cross_spec_body_element
+    | WHOLE_HASHLINE
+    | cross_spec_body_elements WHOLE_HASHLINE
     ;
 
 cross_spec_body_element
@@ -381,6 +398,8 @@ cross_spec_body_element
 bins_specifications
     : bins_specification
     | bins_specifications bins_specification
+    | WHOLE_HASHLINE
+    | bins_specifications WHOLE_HASHLINE
     ;
 
 bins_specification
@@ -437,6 +456,8 @@ memory_properties
 nonempty_memory_properties
     : memory_property
     | nonempty_memory_properties memory_property
+    | WHOLE_HASHLINE
+    | nonempty_memory_properties WHOLE_HASHLINE
     ;
 
 memory_property
@@ -496,6 +517,8 @@ regfile_properties
 nonempty_regfile_properties
     : regfile_property
     | nonempty_regfile_properties regfile_property
+    | WHOLE_HASHLINE
+    | nonempty_regfile_properties WHOLE_HASHLINE
     ;
 
 regfile_property
@@ -547,6 +570,8 @@ global_block_definition
 block_or_domain_properties
     : block_or_domain_property
     | block_or_domain_properties block_or_domain_property
+    | WHOLE_HASHLINE
+    | block_or_domain_properties WHOLE_HASHLINE
     ;
 
 /* `doc` and `cover` at block level belong to the block type and open no default domain. */
@@ -572,6 +597,8 @@ domain_block_properties
 nonempty_domain_block_properties
     : nonempty_domain_block_property
     | nonempty_domain_block_properties nonempty_domain_block_property
+    | WHOLE_HASHLINE
+    | nonempty_domain_block_properties WHOLE_HASHLINE
     ;
 
 nonempty_domain_block_property
@@ -681,6 +708,8 @@ global_system_definition
 system_or_domain_properties
     : system_or_domain_property
     | system_or_domain_properties system_or_domain_property
+    | WHOLE_HASHLINE
+    | system_or_domain_properties WHOLE_HASHLINE
     ;
 
 system_or_domain_property
@@ -705,6 +734,8 @@ domain_system_properties
 nonempty_domain_system_properties
     : nonempty_domain_system_property
     | nonempty_domain_system_properties nonempty_domain_system_property
+    | WHOLE_HASHLINE
+    | nonempty_domain_system_properties WHOLE_HASHLINE
     ;
 
 nonempty_domain_system_property
@@ -786,6 +817,9 @@ const char* brix_token_name(yysymbol_kind_t symbol) {
     if (symbol == YYSYMBOL_YYUNDEF) {
         return "$undefined";
     }
+    if (symbol == YYSYMBOL_WHOLE_HASHLINE) {
+        return "HASHLINE";
+    }
     return yysymbol_name(symbol);
 }
 } // namespace
@@ -799,8 +833,11 @@ static int yyreport_syntax_error(const yypcontext_t* ctx) {
     }
     std::string message = "syntax error, unexpected ";
     message += brix_token_name(yypcontext_token(ctx));
-    yysymbol_kind_t expected[max_expected + 1];
-    const int count = yypcontext_expected_tokens(ctx, expected, max_expected + 1);
+    // The whole hash line is always expected along with HASHLINE: it is not listed.
+    yysymbol_kind_t expected[YYNTOKENS];
+    const int all = yypcontext_expected_tokens(ctx, expected, YYNTOKENS);
+    const int count = static_cast<int>(
+        std::remove(expected, expected + all, YYSYMBOL_WHOLE_HASHLINE) - expected);
     if (count > 0 && count <= max_expected) {
         for (int i = 0; i < count; ++i) {
             message += i == 0 ? ", expecting " : " or ";

@@ -6,6 +6,7 @@
 #include "grammar.hpp"
 
 #include <chrono>
+#include <functional>
 #include <vector>
 
 // The scanner's own buffer calls, to read from a file as the driver does.
@@ -73,6 +74,10 @@ TEST(Scanner, UnreadRadixFormsLeaveTheApostropheOnStdout) {
     r = scan("4'B1");
     EXPECT_EQ(r.tokens, (std::vector<token>{{DECIMAL_INT, "4"}, {IDENTIFIER, "B1"}}));
     EXPECT_EQ(r.echoed, "'");
+    r = scan("7' 'd_ 'o8");
+    EXPECT_EQ(r.tokens,
+              (std::vector<token>{{DECIMAL_INT, "7"}, {NUMBER, "'d_"}, {IDENTIFIER, "o8"}}));
+    EXPECT_EQ(r.echoed, "''");
 }
 
 TEST(Scanner, BackquoteStartsAnIdentifierOnly) {
@@ -110,6 +115,9 @@ TEST(Scanner, CoverTakesOnlyItsSpecAndDropsTheRest) {
     scan_result r = scan("cover = +b-a field");
     EXPECT_EQ(r.tokens, (std::vector<token>{{COVER, ""}, {COVER_SPEC, "+b-a"}, {FIELD, ""}}));
     EXPECT_EQ(r.echoed, "=");
+    // A trailing sign is not part of the spec.
+    EXPECT_EQ(tokens_of("cover -f+x"),
+              (std::vector<token>{{COVER, ""}, {COVER_SPEC, "-f"}, {'+', ""}, {IDENTIFIER, "x"}}));
 }
 
 TEST(Scanner, AttributesHaveTheirOwnWords) {
@@ -127,14 +135,34 @@ TEST(Scanner, AttributesHaveTheirOwnWords) {
 }
 
 TEST(Scanner, HashLinesSetThePlaceAndTheirOwnNewlineDoesNotCount) {
-    scan_result r = scan("BRIX_HASHLINE 12 dir/top.brix");
-    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    // A whole hash line is one token; its place holds from the next token on.
+    initialize();
+    brix_scanner_use_string("BRIX_HASHLINE 12 dir/top.brix\na\nb");
+    brix_src_file_linenum = 3;
+    EXPECT_EQ(yylex(), WHOLE_HASHLINE);
+    EXPECT_EQ(brix_src_file_linenum, 3u);
+    EXPECT_EQ(yylex(), IDENTIFIER);
     EXPECT_STREQ(brix_src_file_name, "dir/top.brix");
     EXPECT_EQ(brix_src_file_linenum, 12u);
-    // All digits is a line number, digits and letters a file name.
+    EXPECT_EQ(yylex(), IDENTIFIER);
+    EXPECT_EQ(brix_src_file_linenum, 13u);
+    // After blanks too.
+    scan_result r = scan(" \tBRIX_HASHLINE 5 a.brix\n");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{WHOLE_HASHLINE, ""}}));
+    EXPECT_STREQ(brix_src_file_name, "a.brix");
+    EXPECT_EQ(brix_src_file_linenum, 5u);
+    // Other shapes come token by token: all digits is a line number, digits and letters
+    // a file name.
+    r = scan("BRIX_HASHLINE\t7\n dir/top.brix");
+    EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    EXPECT_EQ(brix_src_file_linenum, 7u);
     r = scan("BRIX_HASHLINE 12x");
     EXPECT_EQ(r.tokens, (std::vector<token>{{HASHLINE, ""}, {FILENAME, ""}}));
     EXPECT_STREQ(brix_src_file_name, "12x");
+    r = scan("BRIX_HASHLINE 1 2 3x");
+    EXPECT_EQ(r.tokens,
+              (std::vector<token>{{HASHLINE, ""}, {LINENUM, ""}, {LINENUM, ""}, {FILENAME, ""}}));
+    EXPECT_EQ(tokens_of("BRIX_HASHLINEx"), (std::vector<token>{{IDENTIFIER, "BRIX_HASHLINEx"}}));
 }
 
 TEST(Scanner, NewlinesInBodiesAndStringsCount) {
@@ -173,8 +201,10 @@ TEST(Scanner, UnterminatedBodyEndsTheRun) {
     EXPECT_EQ(r.err.rfind("Fatal error: realloc of ", 0), 0u) << r.err;
 }
 
-// Scans `bytes` (NULs allowed) from a file through a fresh 16384-byte buffer.
-std::vector<token> scan_file(const std::string& bytes) {
+// Scans `bytes` (NULs allowed) from a file through a fresh 16384-byte buffer; `each` sees
+// every token as it comes.
+std::vector<token> scan_file(
+    const std::string& bytes, const std::function<void(int)>& each = [](int) {}) {
     initialize();
     brix_scanner_use_string(""); // back to the initial start condition
     FILE* f = tmpfile();
@@ -185,6 +215,7 @@ std::vector<token> scan_file(const std::string& bytes) {
     std::vector<token> tokens;
     for (int kind; (kind = yylex()) != 0;) {
         tokens.push_back({kind, carries_text(kind) ? yylval.str : ""});
+        each(kind);
     }
     fclose(f);
     return tokens;
@@ -228,6 +259,31 @@ TEST(ScannerFile, OneLongLineAndALongStringLiteral) {
                                      {'}', ""},         {ATTRIBUTES, ""},   {'{', ""},
                                      {IDENTIFIER, "k"}, {STRING_LIT, text}, {'}', ""}};
     EXPECT_EQ(got, want);
+}
+
+TEST(ScannerFile, HashLinesCutByTheBufferEndAreWholeToo) {
+    // After blanks a hash line is read by hand unless the buffer ends within it; then the
+    // rules read it. Shifting the text moves the buffer's end through every part of one.
+    for (int shift = 0; shift < 45; ++shift) {
+        std::string text(shift, ' ');
+        std::vector<token> want;
+        for (int line = 1; text.size() < 20000; ++line) {
+            const std::string n = std::to_string(line);
+            text += " BRIX_HASHLINE " + n + " dir/f" + n + ".brix\n" + "x" + n;
+            want.push_back({WHOLE_HASHLINE, ""});
+            want.push_back({IDENTIFIER, "x" + n});
+        }
+        int wrong_places = 0;
+        const std::vector<token> got = scan_file(text, [&](int kind) {
+            if (kind == IDENTIFIER) {
+                const std::string n = yylval.str + 1;
+                wrong_places += std::to_string(brix_src_file_linenum) != n ||
+                                brix_src_file_name != "dir/f" + n + ".brix";
+            }
+        });
+        EXPECT_EQ(got, want) << shift;
+        EXPECT_EQ(wrong_places, 0) << shift;
+    }
 }
 
 TEST(ScannerFile, ANulInABodyIsTextNotTheEnd) {
