@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <memory>
 #include <string>
 #include <unistd.h>
 #include <utility>
@@ -24,6 +25,7 @@ std::vector<void (*)()>& exit_hooks() {
     static std::vector<void (*)()> hooks;
     return hooks;
 }
+void release_held_text();
 } // namespace
 
 void brix_add_exit_hook(void (*hook)()) {
@@ -37,6 +39,7 @@ void brix_exit(int status) {
     for (auto hook = exit_hooks().rbegin(); hook != exit_hooks().rend(); ++hook) {
         (*hook)();
     }
+    release_held_text();
     if (brx_model_fp != nullptr) {
         fflush(brx_model_fp);
     }
@@ -110,114 +113,214 @@ void yyerror(const char* message) {
     brix_exit(1);
 }
 
-void brix_vemit(const char* fmt, brix_args args) {
-    brix_vemit_to(brx_model_fp, fmt, args);
+namespace {
+// Text put together by brix_emit: appends are its hot path, so it keeps its own size and
+// room rather than going through std::string's checks.
+struct emit_text {
+    std::unique_ptr<char[]> data;
+    std::size_t size = 0;
+    std::size_t room = 0;
+
+    void reserve(std::size_t more) {
+        if (size + more > room) {
+            const std::size_t grown = std::max(room * 2, size + more + 4096);
+            auto bigger = std::make_unique<char[]>(grown);
+            if (size != 0) {
+                memcpy(bigger.get(), data.get(), size);
+            }
+            data = std::move(bigger);
+            room = grown;
+        }
+    }
+    void append(const char* text, std::size_t n) {
+        reserve(n);
+        memcpy(data.get() + size, text, n);
+        size += n;
+    }
+    void push(char c) {
+        reserve(1);
+        data[size++] = c;
+    }
+    // Writes it all to `out`; true when stdio took all of it.
+    bool write_to(FILE* out) const {
+        return size == 0 || fwrite_unlocked(data.get(), 1, size, out) == size;
+    }
+};
+
+// A generated file that is open, with its name for the report of a failed write and the
+// text brix_emit has given it that has not yet been handed to stdio.
+struct output_file {
+    FILE* fp;
+    std::string name;
+    emit_text held;
+};
+
+std::vector<std::unique_ptr<output_file>>& open_outputs() {
+    static std::vector<std::unique_ptr<output_file>> outputs;
+    return outputs;
 }
 
-namespace {
+// The output of the last lookup: calls mostly go to the same file one after another.
+output_file* last_output = nullptr;
+
+output_file* output_of(FILE* fp) {
+    if (last_output != nullptr && last_output->fp == fp) {
+        return last_output;
+    }
+    for (const auto& output : open_outputs()) {
+        if (output->fp == fp) {
+            return last_output = output.get();
+        }
+    }
+    return nullptr;
+}
+
+std::string output_name(FILE* fp) {
+    const output_file* output = output_of(fp);
+    return output != nullptr ? output->name : "";
+}
+
+// Hands the held text to stdio; a failed write ends the run.
+void hand_over(output_file& output) {
+    const bool written = output.held.write_to(output.fp);
+    output.held.size = 0;
+    if (!written) {
+        brix_write_failed(output.fp);
+    }
+}
+
+// On the way out what brix_emit holds reaches stdio too; a second failure is not reported.
+void release_held_text() {
+    for (const auto& output : open_outputs()) {
+        output->held.write_to(output->fp);
+        output->held.size = 0;
+    }
+}
+
+// Held text goes to stdio in pieces of about this size: a call into stdio per call of
+// brix_emit would cost more than the formatting.
+constexpr std::size_t hold_limit = std::size_t{1} << 16;
+
 // Writes a number as printf's %d, %u or %X would: the writer's hot path, where a printf
 // per number would cost more than the rest of the line.
-template <class Number> void put_number(std::string& out, Number value, int base) {
+template <class Number> void put_number(emit_text& out, Number value, int base) {
     char text[24];
     const auto end = std::to_chars(text, text + sizeof text, value, base).ptr;
     if (base == 16) {
         for (char* c = text; c != end; ++c) {
-            *c = static_cast<char>(toupper(static_cast<unsigned char>(*c)));
+            if (*c >= 'a') {
+                *c = static_cast<char>(*c - 'a' + 'A');
+            }
         }
     }
-    out.append(text, end);
+    out.append(text, static_cast<std::size_t>(end - text));
+}
+
+// The directive after '%' at `p`, its argument taken from `args`; returns the format's
+// position after it, or null for an unsupported length directive, whose letter goes to
+// `bad`.
+const char* put_directive(emit_text& text, const char* p, brix_args& args, char& bad) {
+    const char c = *p++;
+    if (c == 's') {
+        if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
+            text.append(a->s, strlen(a->s));
+        }
+    } else if (c == 'c') {
+        if (const brix_arg* a = args.take()) {
+            text.push(static_cast<char>(a->as_signed()));
+        }
+    } else if (c == 'd') {
+        if (const brix_arg* a = args.take()) {
+            put_number(text, static_cast<int>(a->as_signed()), 10);
+        }
+    } else if (c == 'f') {
+        if (const brix_arg* a = args.take()) {
+            char number[400];
+            const int length =
+                snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+            text.append(number, static_cast<std::size_t>(length));
+        }
+    } else if (c == 'l') {
+        if (*p == 'X') {
+            if (const brix_arg* a = args.take()) {
+                put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
+            }
+            return p + 1;
+        }
+        if (*p != 'l' || (p[1] != 'X' && p[1] != 'u')) {
+            bad = *p == 'l' ? p[1] : *p;
+            return nullptr;
+        }
+        if (const brix_arg* a = args.take()) {
+            put_number(text, a->as_unsigned(), p[1] == 'X' ? 16 : 10);
+        }
+        return p + 2;
+    } else {
+        text.push(c);
+    }
+    return p;
+}
+
+// Appends the text of one call; returns the message of an unsupported length directive,
+// with its letter in `bad`, or null when the whole format was written.
+const char* format_into(emit_text& text, const char* fmt, brix_args args, char& bad) {
+    for (const char* p = fmt;;) {
+        // The text up to the next directive in one piece.
+        const char* stop = strchrnul(p, '%');
+        text.append(p, static_cast<std::size_t>(stop - p));
+        if (*stop == '\0' || stop[1] == '\0') {
+            return nullptr; // a lone trailing '%' writes nothing
+        }
+        p = put_directive(text, stop + 1, args, bad);
+        if (p == nullptr) {
+            return stop[2] == 'l' ? "Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n"
+                                  : "Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n";
+        }
+    }
 }
 } // namespace
+
+void brix_vemit(const char* fmt, brix_args args) {
+    brix_vemit_to(brx_model_fp, fmt, args);
+}
 
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
-    // The text of one call is put together here and handed to stdio in one piece: a call
-    // into stdio per piece would cost more than the pieces.
-    static std::string text;
-    text.clear();
-    const auto fail = [out](const char* message, char c) {
-        fwrite_unlocked(text.data(), 1, text.size(), out);
-        brix_error(message, c);
-    };
-    for (const char* p = fmt; *p != '\0'; ++p) {
-        if (*p != '%') {
-            // The text up to the next directive in one piece.
-            const char* stop = strchrnul(p, '%');
-            text.append(p, stop);
-            p = stop - 1;
-            continue;
+    // A generated file's text is held and handed over in big pieces; any other stream gets
+    // the text of each call at once.
+    output_file* output = output_of(out);
+    static emit_text direct;
+    emit_text& text = output != nullptr ? output->held : direct;
+    direct.size = 0;
+    char bad = 0;
+    const char* unsupported = format_into(text, fmt, args, bad);
+    if (output == nullptr) {
+        // Before the message of an unsupported directive too, as the text of a file does.
+        if (!direct.write_to(out) && unsupported == nullptr) {
+            brix_write_failed(out);
         }
-        if (p[1] == '\0') {
-            break;
-        }
-        ++p;
-        const char c = *p;
-        if (c == 's') {
-            if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
-                text += a->s;
-            }
-        } else if (c == 'c') {
-            if (const brix_arg* a = args.take()) {
-                text += static_cast<char>(a->as_signed());
-            }
-        } else if (c == 'd') {
-            if (const brix_arg* a = args.take()) {
-                put_number(text, static_cast<int>(a->as_signed()), 10);
-            }
-        } else if (c == 'f') {
-            if (const brix_arg* a = args.take()) {
-                char number[400];
-                const int length =
-                    snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
-                text.append(number, static_cast<std::size_t>(length));
-            }
-        } else if (c == 'l') {
-            ++p;
-            if (*p == 'X') {
-                if (const brix_arg* a = args.take()) {
-                    put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
-                }
-            } else if (*p == 'l') {
-                ++p;
-                if (*p == 'X' || *p == 'u') {
-                    if (const brix_arg* a = args.take()) {
-                        put_number(text, a->as_unsigned(), *p == 'X' ? 16 : 10);
-                    }
-                } else {
-                    fail("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n", *p);
-                }
-            } else {
-                fail("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
-            }
-        } else {
-            text += c;
-        }
+    } else if (text.size >= hold_limit && unsupported == nullptr) {
+        hand_over(*output);
     }
-    if (fwrite_unlocked(text.data(), 1, text.size(), out) != text.size()) {
-        brix_write_failed(out);
+    if (unsupported != nullptr) {
+        brix_error(unsupported, bad);
     }
 }
 
-namespace {
-// The generated files now open, with their names.
-std::vector<std::pair<FILE*, std::string>>& open_outputs() {
-    static std::vector<std::pair<FILE*, std::string>> outputs;
-    return outputs;
-}
-
-std::string output_name(FILE* fp) {
-    for (const auto& [stream, name] : open_outputs()) {
-        if (stream == fp) {
-            return name;
-        }
+void brix_vformat(std::string& out, const char* fmt, brix_args args) {
+    static emit_text text;
+    text.size = 0;
+    char bad = 0;
+    const char* unsupported = format_into(text, fmt, args, bad);
+    out.append(text.data.get(), text.size);
+    if (unsupported != nullptr) {
+        brix_error(unsupported, bad);
     }
-    return "";
 }
-} // namespace
 
 FILE* brix_open_output(const std::string& name) {
     FILE* fp = fopen(name.c_str(), "w");
     if (fp != nullptr) {
-        open_outputs().emplace_back(fp, name);
+        open_outputs().push_back(std::make_unique<output_file>(output_file{fp, name, {}}));
     }
     return fp;
 }
@@ -233,13 +336,17 @@ void brix_write_failed(FILE* fp) {
 
 void brix_close_output(FILE*& fp) {
     FILE* const stream = fp;
+    if (output_file* output = output_of(stream)) {
+        hand_over(*output);
+    }
     // The pointer is cleared first: the way out flushes the model's stream if it is set.
     fp = nullptr;
     if (stream == brx_model_fp) {
         brx_model_fp = nullptr;
     }
     const std::string name = output_name(stream);
-    std::erase_if(open_outputs(), [stream](const auto& output) { return output.first == stream; });
+    last_output = nullptr;
+    std::erase_if(open_outputs(), [stream](const auto& output) { return output->fp == stream; });
     errno = 0;
     const bool failed = fflush(stream) != 0 || ferror(stream) != 0;
     const int error = errno;

@@ -64,6 +64,8 @@ void brix_vyywarn(const char* fmt, brix_args args);
 void brix_vemit(const char* fmt, brix_args args);
 // brix_emit's format language, to another stream than the model's.
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args);
+// brix_emit's format language, appended to a string.
+void brix_vformat(std::string& out, const char* fmt, brix_args args);
 // Writes a diagnostic's format to stderr in the diagnostics' format language.
 void brix_diag_format(const char* fmt, brix_args args);
 
@@ -86,6 +88,10 @@ template <class... A> void brix_yywarn(const char* fmt, const A&... a) {
 template <class... A> void brix_emit(const char* fmt, const A&... a) {
     const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
     brix_vemit(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> void brix_format(std::string& out, const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vformat(out, fmt, brix_args{v.data(), v.size()});
 }
 template <class... A> void brix_emit_to(FILE* out, const char* fmt, const A&... a) {
     const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
