@@ -284,26 +284,46 @@ void brix_vemit(const char* fmt, brix_args args) {
     brix_vemit_to(brx_model_fp, fmt, args);
 }
 
-void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
-    // A generated file's text is held and handed over in big pieces; any other stream gets
-    // the text of each call at once.
-    output_file* output = output_of(out);
+namespace {
+// The text to which a call's output is appended: a generated file's held text, or for any
+// other stream a piece of its own that goes out at the end of the call.
+emit_text& text_for(FILE* out, output_file*& output) {
     static emit_text direct;
-    emit_text& text = output != nullptr ? output->held : direct;
+    output = output_of(out);
     direct.size = 0;
-    char bad = 0;
-    const char* unsupported = format_into(text, fmt, args, bad);
+    return output != nullptr ? output->held : direct;
+}
+
+// Ends a call: held text goes to stdio once there is enough of it, other text at once. A
+// call that failed on an unsupported directive writes what it has and reports no failed
+// write.
+void finish_call(FILE* out, output_file* output, emit_text& text, bool complete) {
     if (output == nullptr) {
-        // Before the message of an unsupported directive too, as the text of a file does.
-        if (!direct.write_to(out) && unsupported == nullptr) {
+        if (!text.write_to(out) && complete) {
             brix_write_failed(out);
         }
-    } else if (text.size >= hold_limit && unsupported == nullptr) {
+    } else if (text.size >= hold_limit && complete) {
         hand_over(*output);
     }
+}
+} // namespace
+
+void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
+    output_file* output = nullptr;
+    emit_text& text = text_for(out, output);
+    char bad = 0;
+    const char* unsupported = format_into(text, fmt, args, bad);
+    finish_call(out, output, text, unsupported == nullptr);
     if (unsupported != nullptr) {
         brix_error(unsupported, bad);
     }
+}
+
+void brix_write_text(FILE* out, std::string_view piece) {
+    output_file* output = nullptr;
+    emit_text& text = text_for(out, output);
+    text.append(piece.data(), piece.size());
+    finish_call(out, output, text, true);
 }
 
 void brix_vformat(std::string& out, const char* fmt, brix_args args) {

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 // Name of the temporary pure description file; empty until main has chosen it.
 extern char pure_brix_file[100];
@@ -64,6 +65,8 @@ void brix_vyywarn(const char* fmt, brix_args args);
 void brix_vemit(const char* fmt, brix_args args);
 // brix_emit's format language, to another stream than the model's.
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args);
+// Writes `text` as it is, where brix_emit_to would write it.
+void brix_write_text(FILE* out, std::string_view text);
 // brix_emit's format language, appended to a string.
 void brix_vformat(std::string& out, const char* fmt, brix_args args);
 // Writes a diagnostic's format to stderr in the diagnostics' format language.
