@@ -1,6 +1,7 @@
 #include "driver/diag.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cerrno>
 #include <charconv>
@@ -123,18 +124,33 @@ struct emit_text {
 
     void reserve(std::size_t more) {
         if (size + more > room) {
-            const std::size_t grown = std::max(room * 2, size + more + 4096);
-            auto bigger = std::make_unique<char[]>(grown);
-            if (size != 0) {
-                memcpy(bigger.get(), data.get(), size);
-            }
-            data = std::move(bigger);
-            room = grown;
+            grow(more);
         }
+    }
+    void grow(std::size_t more) {
+        const std::size_t grown = std::max(room * 2, size + more + 4096);
+        auto bigger = std::make_unique<char[]>(grown);
+        if (size != 0) {
+            memcpy(bigger.get(), data.get(), size);
+        }
+        data = std::move(bigger);
+        room = grown;
     }
     void append(const char* text, std::size_t n) {
         reserve(n);
         memcpy(data.get() + size, text, n);
+        size += n;
+    }
+    // As append, from text that can be read `copy_block` bytes beyond its end: short
+    // pieces are copied as one block of fixed size, without a call.
+    static constexpr std::size_t copy_block = 16;
+    void append_padded(const char* text, std::size_t n) {
+        if (n > copy_block) {
+            append(text, n);
+            return;
+        }
+        reserve(copy_block);
+        memcpy(data.get() + size, text, copy_block);
         size += n;
     }
     void push(char c) {
@@ -216,67 +232,139 @@ template <class Number> void put_number(emit_text& out, Number value, int base) 
     out.append(text, static_cast<std::size_t>(end - text));
 }
 
-// The directive after '%' at `p`, its argument taken from `args`; returns the format's
-// position after it, or null for an unsupported length directive, whose letter goes to
-// `bad`.
-const char* put_directive(emit_text& text, const char* p, brix_args& args, char& bad) {
-    const char c = *p++;
-    if (c == 's') {
-        if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
+// One directive's text, its argument taken from `args`. The codes: 's', 'c', 'd', 'f',
+// 'x' for %lX, 'X' for %llX and 'u' for %llu.
+void put_directive(emit_text& text, char code, brix_args& args) {
+    const brix_arg* a = args.take();
+    if (a == nullptr) {
+        return;
+    }
+    switch (code) {
+    case 's':
+        if (a->kind == brix_arg::STR && a->s != nullptr) {
             text.append(a->s, strlen(a->s));
         }
-    } else if (c == 'c') {
-        if (const brix_arg* a = args.take()) {
-            text.push(static_cast<char>(a->as_signed()));
-        }
-    } else if (c == 'd') {
-        if (const brix_arg* a = args.take()) {
-            put_number(text, static_cast<int>(a->as_signed()), 10);
-        }
-    } else if (c == 'f') {
-        if (const brix_arg* a = args.take()) {
-            char number[400];
-            const int length =
-                snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
-            text.append(number, static_cast<std::size_t>(length));
-        }
-    } else if (c == 'l') {
-        if (*p == 'X') {
-            if (const brix_arg* a = args.take()) {
-                put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
-            }
-            return p + 1;
-        }
-        if (*p != 'l' || (p[1] != 'X' && p[1] != 'u')) {
-            bad = *p == 'l' ? p[1] : *p;
-            return nullptr;
-        }
-        if (const brix_arg* a = args.take()) {
-            put_number(text, a->as_unsigned(), p[1] == 'X' ? 16 : 10);
-        }
-        return p + 2;
-    } else {
-        text.push(c);
+        break;
+    case 'c':
+        text.push(static_cast<char>(a->as_signed()));
+        break;
+    case 'd':
+        put_number(text, static_cast<int>(a->as_signed()), 10);
+        break;
+    case 'f': {
+        char number[400];
+        const int length =
+            snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+        text.append(number, static_cast<std::size_t>(length));
+        break;
     }
-    return p;
+    case 'x':
+        put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
+        break;
+    default:
+        put_number(text, a->as_unsigned(), code == 'X' ? 16 : 10);
+        break;
+    }
 }
 
-// Appends the text of one call; returns the message of an unsupported length directive,
-// with its letter in `bad`, or null when the whole format was written.
-const char* format_into(emit_text& text, const char* fmt, brix_args args, char& bad) {
-    for (const char* p = fmt;;) {
-        // The text up to the next directive in one piece.
-        const char* stop = strchrnul(p, '%');
-        text.append(p, static_cast<std::size_t>(stop - p));
-        if (*stop == '\0' || stop[1] == '\0') {
-            return nullptr; // a lone trailing '%' writes nothing
+// A format read once: its literal text, with the directives' places in it. Any other letter
+// after '%' stands for itself and is literal text; a lone trailing '%' writes nothing. An
+// unsupported length directive ends the pieces, with the message that ends the run.
+struct parsed_format {
+    struct piece {
+        std::size_t start, length; // of the literal text before the directive
+        char code;                 // the directive, 0 after the last literal text
+    };
+    const char* key = nullptr;
+    std::string fmt; // what was read, to tell a format from another at the same address
+    std::string literal;
+    std::vector<piece> pieces;
+    const char* unsupported = nullptr;
+    char bad = 0;
+};
+
+// The directive after a '%' at `p`: its code and length, code 0 for a letter that stands
+// for itself, or null length for an unsupported length directive.
+std::pair<char, int> read_directive(const char* p) {
+    switch (*p) {
+    case 's':
+    case 'c':
+    case 'd':
+    case 'f':
+        return {*p, 1};
+    case 'l':
+        if (p[1] == 'X') {
+            return {'x', 2};
         }
-        p = put_directive(text, stop + 1, args, bad);
-        if (p == nullptr) {
-            return stop[2] == 'l' ? "Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n"
-                                  : "Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n";
+        if (p[1] == 'l' && (p[2] == 'X' || p[2] == 'u')) {
+            return {p[2], 3};
+        }
+        return {'?', 0};
+    default:
+        return {0, 1};
+    }
+}
+
+void parse_format(parsed_format& f, const char* fmt) {
+    f.key = fmt;
+    f.fmt = fmt;
+    f.literal.clear();
+    f.pieces.clear();
+    f.unsupported = nullptr;
+    std::size_t start = 0;
+    for (const char* p = fmt; *p != '\0' && !(*p == '%' && p[1] == '\0'); ++p) {
+        if (*p != '%') {
+            f.literal += *p;
+            continue;
+        }
+        const auto [code, length] = read_directive(p + 1);
+        if (length == 0) {
+            f.bad = p[2] == 'l' ? p[3] : p[2];
+            f.unsupported = p[2] == 'l'
+                                ? "Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n"
+                                : "Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n";
+            break;
+        }
+        if (code == 0) {
+            f.literal += p[1];
+        } else {
+            f.pieces.push_back({start, f.literal.size() - start, code});
+            start = f.literal.size();
+        }
+        p += length;
+    }
+    f.pieces.push_back({start, f.literal.size() - start, 0});
+    f.literal.append(emit_text::copy_block, '\0');
+}
+
+// The formats are mostly the few templates of the generators, used over and over: each is
+// read once and kept by its address, checked against its text at every use.
+const parsed_format& parsed(const char* fmt) {
+    static std::array<parsed_format, 1024> kept;
+    const auto address = reinterpret_cast<std::uintptr_t>(fmt);
+    parsed_format& f = kept[((address >> 3) * 0x9E3779B97F4A7C15ULL >> 54) % kept.size()];
+    if (f.key != fmt || strcmp(f.fmt.c_str(), fmt) != 0) {
+        parse_format(f, fmt);
+    }
+    return f;
+}
+
+// Appends the text of one call; returns the parsed format for its unsupported directive.
+const parsed_format& format_into(emit_text& text, const char* fmt, brix_args args) {
+    const parsed_format& f = parsed(fmt);
+    for (const parsed_format::piece& p : f.pieces) {
+        text.append_padded(f.literal.data() + p.start, p.length);
+        if (p.code == 's' && args.next < args.count) {
+            // The most common directive, without the call.
+            const brix_arg& a = args.args[args.next++];
+            if (a.kind == brix_arg::STR && a.s != nullptr) {
+                text.append(a.s, strlen(a.s));
+            }
+        } else if (p.code != 0) {
+            put_directive(text, p.code, args);
         }
     }
+    return f;
 }
 } // namespace
 
@@ -311,11 +399,10 @@ void finish_call(FILE* out, output_file* output, emit_text& text, bool complete)
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
     output_file* output = nullptr;
     emit_text& text = text_for(out, output);
-    char bad = 0;
-    const char* unsupported = format_into(text, fmt, args, bad);
-    finish_call(out, output, text, unsupported == nullptr);
-    if (unsupported != nullptr) {
-        brix_error(unsupported, bad);
+    const parsed_format& f = format_into(text, fmt, args);
+    finish_call(out, output, text, f.unsupported == nullptr);
+    if (f.unsupported != nullptr) {
+        brix_error(f.unsupported, f.bad);
     }
 }
 
@@ -329,11 +416,10 @@ void brix_write_text(FILE* out, std::string_view piece) {
 void brix_vformat(std::string& out, const char* fmt, brix_args args) {
     static emit_text text;
     text.size = 0;
-    char bad = 0;
-    const char* unsupported = format_into(text, fmt, args, bad);
+    const parsed_format& f = format_into(text, fmt, args);
     out.append(text.data.get(), text.size);
-    if (unsupported != nullptr) {
-        brix_error(unsupported, bad);
+    if (f.unsupported != nullptr) {
+        brix_error(f.unsupported, f.bad);
     }
 }
 
