@@ -135,14 +135,6 @@ long long bin_number(const brix_cvr_bin_value* v, const brix_enum_values& enum_v
 
 } // namespace
 
-void indent_code(int n, FILE* stream) {
-    // Through the writer, which holds a generated file's text: a row of tabs at a time.
-    static const std::string tabs(64, '\t');
-    for (; n > 0; n -= static_cast<int>(tabs.size())) {
-        brix_emit_to(stream, "%s", tabs.c_str() + tabs.size() - std::min<size_t>(n, tabs.size()));
-    }
-}
-
 int hdl_xmr_brix_hierarchy(const brix_list_tag* list) {
     for (const brix_list_tag* n = list; n != nullptr; n = n->next) {
         const brix_hdl_path_tag* path = nullptr;

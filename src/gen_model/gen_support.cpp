@@ -97,3 +97,10 @@ uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes)
 uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes) {
     return bytes > system_bytes ? size * get_ceil(bytes, system_bytes) : size;
 }
+
+void indent_code(int n, FILE* stream) {
+    static const std::string tabs(64, '\t');
+    for (; n > 0; n -= static_cast<int>(tabs.size())) {
+        brix_write_text(stream, std::string_view(tabs).substr(0, static_cast<size_t>(n)));
+    }
+}

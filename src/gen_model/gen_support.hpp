@@ -34,6 +34,9 @@ extern brix_list_tag* brix_hierarchy;
 extern const brix_cvr_templates* brix_cvr_lang;
 extern const brix_bkdr_templates* brix_bkdr_lang;
 
+// Writes `n` tabs to a stream through the writer; nothing for `n` below 1.
+void indent_code(int n, FILE* stream);
+
 // `<scope_prefix>_<name>`, or `<name>` for a global definition.
 std::string brix_class_suffix(const char* scope_prefix, const char* name);
 
