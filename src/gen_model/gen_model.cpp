@@ -1,6 +1,8 @@
 #include "gen_model/gen_model.hpp"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cctype>
 #include <cstring>
 #include <string_view>
@@ -163,11 +165,26 @@ int is_constrained(const brix_field_tag* f, const brix_register_type_tag* t) {
     return 0;
 }
 
-std::string reset_text(const char* written, const char* fmt, uint32_t bits) {
+// A reset value as written, else `<bits><suffix>` made in `buffer`.
+const char* reset_text(const char* written, std::string_view suffix, uint32_t bits,
+                       std::array<char, 32>& buffer) {
     if (written != nullptr) {
         return written;
     }
-    return std::to_string(bits) + fmt;
+    char* end = std::to_chars(buffer.data(), buffer.data() + 16, bits).ptr;
+    end += suffix.copy(end, buffer.data() + buffer.size() - 1 - end);
+    *end = '\0';
+    return buffer.data();
+}
+
+// The access constant of a field, `qvt_brx::<ACCESS>`, in a string kept for it.
+const std::string& access_constant(const char* access) {
+    static std::string text;
+    text.assign("qvt_brx::");
+    for (const char* c = access != nullptr ? access : ""; *c != '\0'; ++c) {
+        text += static_cast<char>(toupper(static_cast<unsigned char>(*c)));
+    }
+    return text;
 }
 
 void emit_attributes(const brix_attribute* list) {
@@ -909,10 +926,11 @@ void emit_register(const brix_register_tag* reg) {
             return;
         }
         const brix_field_type_tag* ft = f->type;
+        std::array<char, 32> hard;
+        std::array<char, 32> soft;
         brix_emit(L().reg_field_new, f->name, f->name, static_cast<int>(ft->bits),
-                  std::string("qvt_brx::") + upper(ft->access),
-                  reset_text(ft->hard_reset, "'h0", ft->bits),
-                  reset_text(ft->soft_reset, "'hx", ft->bits), static_cast<int>(lsb),
+                  access_constant(ft->access), reset_text(ft->hard_reset, "'h0", ft->bits, hard),
+                  reset_text(ft->soft_reset, "'hx", ft->bits, soft), static_cast<int>(lsb),
                   is_constrained(f, t));
     });
     emit_attributes(t->attributes);
