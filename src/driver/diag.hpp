@@ -23,10 +23,13 @@ extern int brix_quiet_mode;
 
 struct brix_arg {
     enum kind_t { STR, INT, UINT, DBL, CHR } kind;
-    const char* s = nullptr;
-    long long i = 0;
-    unsigned long long u = 0;
-    double d = 0;
+    // The member that `kind` names; a directive that reads another kind sees 0.
+    union {
+        const char* s;
+        long long i;
+        unsigned long long u;
+        double d;
+    };
 
     brix_arg(const char* v) : kind(STR), s(v) {}
     brix_arg(const std::string& v) : kind(STR), s(v.c_str()) {}
@@ -39,9 +42,11 @@ struct brix_arg {
     brix_arg(unsigned long long v) : kind(UINT), u(v) {}
     brix_arg(double v) : kind(DBL), d(v) {}
 
-    long long as_signed() const { return kind == UINT ? static_cast<long long>(u) : i; }
+    long long as_signed() const {
+        return kind == UINT ? static_cast<long long>(u) : kind == INT || kind == CHR ? i : 0;
+    }
     unsigned long long as_unsigned() const {
-        return kind == UINT ? u : static_cast<unsigned long long>(i);
+        return kind == UINT ? u : static_cast<unsigned long long>(as_signed());
     }
 };
 
