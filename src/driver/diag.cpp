@@ -153,6 +153,21 @@ struct emit_text {
         memcpy(data.get() + size, text, copy_block);
         size += n;
     }
+    // A string of unknown length: names are short, so a block's worth is copied a byte at a
+    // time and only a longer rest is measured.
+    void append_string(const char* text) {
+        reserve(copy_block);
+        char* out = data.get() + size;
+        for (std::size_t n = 0; n < copy_block; ++n) {
+            if (text[n] == '\0') {
+                size += n;
+                return;
+            }
+            out[n] = text[n];
+        }
+        size += copy_block;
+        append(text + copy_block, strlen(text + copy_block));
+    }
     void push(char c) {
         reserve(1);
         data[size++] = c;
@@ -179,10 +194,16 @@ std::vector<std::unique_ptr<output_file>>& open_outputs() {
 // The output of the last lookup: calls mostly go to the same file one after another.
 output_file* last_output = nullptr;
 
+output_file* search_outputs(FILE* fp);
+
 output_file* output_of(FILE* fp) {
     if (last_output != nullptr && last_output->fp == fp) {
         return last_output;
     }
+    return search_outputs(fp);
+}
+
+output_file* search_outputs(FILE* fp) {
     for (const auto& output : open_outputs()) {
         if (output->fp == fp) {
             return last_output = output.get();
@@ -242,7 +263,7 @@ void put_directive(emit_text& text, char code, brix_args& args) {
     switch (code) {
     case 's':
         if (a->kind == brix_arg::STR && a->s != nullptr) {
-            text.append(a->s, strlen(a->s));
+            text.append_string(a->s);
         }
         break;
     case 'c':
@@ -358,7 +379,7 @@ const parsed_format& format_into(emit_text& text, const char* fmt, brix_args arg
             // The most common directive, without the call.
             const brix_arg& a = args.args[args.next++];
             if (a.kind == brix_arg::STR && a.s != nullptr) {
-                text.append(a.s, strlen(a.s));
+                text.append_string(a.s);
             }
         } else if (p.code != 0) {
             put_directive(text, p.code, args);
