@@ -194,15 +194,6 @@ std::vector<std::unique_ptr<output_file>>& open_outputs() {
 // The output of the last lookup: calls mostly go to the same file one after another.
 output_file* last_output = nullptr;
 
-output_file* search_outputs(FILE* fp);
-
-output_file* output_of(FILE* fp) {
-    if (last_output != nullptr && last_output->fp == fp) {
-        return last_output;
-    }
-    return search_outputs(fp);
-}
-
 output_file* search_outputs(FILE* fp) {
     for (const auto& output : open_outputs()) {
         if (output->fp == fp) {
@@ -210,6 +201,13 @@ output_file* search_outputs(FILE* fp) {
         }
     }
     return nullptr;
+}
+
+output_file* output_of(FILE* fp) {
+    if (last_output != nullptr && last_output->fp == fp) {
+        return last_output;
+    }
+    return search_outputs(fp);
 }
 
 std::string output_name(FILE* fp) {
