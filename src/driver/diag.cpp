@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <link.h>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -300,6 +301,7 @@ struct parsed_format {
     std::vector<piece> pieces;
     const char* unsupported = nullptr;
     char bad = 0;
+    bool literal_format = false; // in the program's read-only image: cannot change
 };
 
 // The directive after a '%' at `p`: its code and length, code 0 for a letter that stands
@@ -356,13 +358,44 @@ void parse_format(parsed_format& f, const char* fmt) {
     f.literal.append(emit_text::copy_block, '\0');
 }
 
+// The read-only parts of the program's own image, where its string literals lie.
+std::vector<std::pair<std::uintptr_t, std::uintptr_t>> read_only_image() {
+    std::vector<std::pair<std::uintptr_t, std::uintptr_t>> ranges;
+    dl_iterate_phdr(
+        [](dl_phdr_info* info, std::size_t, void* data) {
+            auto& found = *static_cast<decltype(ranges)*>(data);
+            for (int i = 0; i < info->dlpi_phnum; ++i) {
+                const ElfW(Phdr)& h = info->dlpi_phdr[i];
+                if (h.p_type == PT_LOAD && (h.p_flags & PF_W) == 0) {
+                    const std::uintptr_t begin = info->dlpi_addr + h.p_vaddr;
+                    found.emplace_back(begin, begin + h.p_memsz);
+                }
+            }
+            return 1; // the program itself comes first
+        },
+        &ranges);
+    return ranges;
+}
+
+bool is_literal(const char* p) {
+    static const auto ranges = read_only_image();
+    const auto address = reinterpret_cast<std::uintptr_t>(p);
+    return std::any_of(ranges.begin(), ranges.end(), [address](const auto& r) {
+        return address >= r.first && address < r.second;
+    });
+}
+
 // The formats are mostly the few templates of the generators, used over and over: each is
-// read once and kept by its address, checked against its text at every use.
+// read once and kept by its address. A format that is not a literal of the program, and
+// so may have changed, is checked against its text at every use.
 const parsed_format& parsed(const char* fmt) {
     static std::array<parsed_format, 1024> kept;
     const auto address = reinterpret_cast<std::uintptr_t>(fmt);
     parsed_format& f = kept[((address >> 3) * 0x9E3779B97F4A7C15ULL >> 54) % kept.size()];
-    if (f.key != fmt || strcmp(f.fmt.c_str(), fmt) != 0) {
+    if (f.key != fmt) {
+        parse_format(f, fmt);
+        f.literal_format = is_literal(fmt);
+    } else if (!f.literal_format && strcmp(f.fmt.c_str(), fmt) != 0) {
         parse_format(f, fmt);
     }
     return f;
