@@ -1,6 +1,7 @@
 #include "driver/diag.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cerrno>
 #include <charconv>
@@ -8,7 +9,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <memory>
 #include <string>
+#include <link.h>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -24,6 +27,7 @@ std::vector<void (*)()>& exit_hooks() {
     static std::vector<void (*)()> hooks;
     return hooks;
 }
+void release_held_text();
 } // namespace
 
 void brix_add_exit_hook(void (*hook)()) {
@@ -37,6 +41,7 @@ void brix_exit(int status) {
     for (auto hook = exit_hooks().rbegin(); hook != exit_hooks().rend(); ++hook) {
         (*hook)();
     }
+    release_held_text();
     if (brx_model_fp != nullptr) {
         fflush(brx_model_fp);
     }
@@ -110,139 +115,370 @@ void yyerror(const char* message) {
     brix_exit(1);
 }
 
+namespace {
+// Text put together by brix_emit: appends are its hot path, so it keeps its own size and
+// room rather than going through std::string's checks.
+struct emit_text {
+    std::unique_ptr<char[]> data;
+    std::size_t size = 0;
+    std::size_t room = 0;
+
+    void reserve(std::size_t more) {
+        if (size + more > room) {
+            grow(more);
+        }
+    }
+    void grow(std::size_t more) {
+        const std::size_t grown = std::max(room * 2, size + more + 4096);
+        auto bigger = std::make_unique<char[]>(grown);
+        if (size != 0) {
+            memcpy(bigger.get(), data.get(), size);
+        }
+        data = std::move(bigger);
+        room = grown;
+    }
+    void append(const char* text, std::size_t n) {
+        reserve(n);
+        memcpy(data.get() + size, text, n);
+        size += n;
+    }
+    // As append, from text that can be read `copy_block` bytes beyond its end: short
+    // pieces are copied as one block of fixed size, without a call.
+    static constexpr std::size_t copy_block = 16;
+    void append_padded(const char* text, std::size_t n) {
+        if (n > copy_block) {
+            append(text, n);
+            return;
+        }
+        reserve(copy_block);
+        memcpy(data.get() + size, text, copy_block);
+        size += n;
+    }
+    // A string of unknown length: names are short, so a block's worth is copied a byte at a
+    // time and only a longer rest is measured.
+    void append_string(const char* text) {
+        reserve(copy_block);
+        char* out = data.get() + size;
+        for (std::size_t n = 0; n < copy_block; ++n) {
+            if (text[n] == '\0') {
+                size += n;
+                return;
+            }
+            out[n] = text[n];
+        }
+        size += copy_block;
+        append(text + copy_block, strlen(text + copy_block));
+    }
+    void push(char c) {
+        reserve(1);
+        data[size++] = c;
+    }
+    // Writes it all to `out`; true when stdio took all of it.
+    bool write_to(FILE* out) const {
+        return size == 0 || fwrite_unlocked(data.get(), 1, size, out) == size;
+    }
+};
+
+// A generated file that is open, with its name for the report of a failed write and the
+// text brix_emit has given it that has not yet been handed to stdio.
+struct output_file {
+    FILE* fp;
+    std::string name;
+    emit_text held;
+};
+
+std::vector<std::unique_ptr<output_file>>& open_outputs() {
+    static std::vector<std::unique_ptr<output_file>> outputs;
+    return outputs;
+}
+
+// The output of the last lookup: calls mostly go to the same file one after another.
+output_file* last_output = nullptr;
+
+output_file* search_outputs(FILE* fp) {
+    for (const auto& output : open_outputs()) {
+        if (output->fp == fp) {
+            return last_output = output.get();
+        }
+    }
+    return nullptr;
+}
+
+output_file* output_of(FILE* fp) {
+    if (last_output != nullptr && last_output->fp == fp) {
+        return last_output;
+    }
+    return search_outputs(fp);
+}
+
+std::string output_name(FILE* fp) {
+    const output_file* output = output_of(fp);
+    return output != nullptr ? output->name : "";
+}
+
+// Hands the held text to stdio; a failed write ends the run.
+void hand_over(output_file& output) {
+    const bool written = output.held.write_to(output.fp);
+    output.held.size = 0;
+    if (!written) {
+        brix_write_failed(output.fp);
+    }
+}
+
+// On the way out what brix_emit holds reaches stdio too; a second failure is not reported.
+void release_held_text() {
+    for (const auto& output : open_outputs()) {
+        output->held.write_to(output->fp);
+        output->held.size = 0;
+    }
+}
+
+// Held text goes to stdio in pieces of about this size: a call into stdio per call of
+// brix_emit would cost more than the formatting.
+constexpr std::size_t hold_limit = std::size_t{1} << 16;
+
+// Writes a number as printf's %d, %u or %X would: the writer's hot path, where a printf
+// per number would cost more than the rest of the line.
+template <class Number> void put_number(emit_text& out, Number value, int base) {
+    char text[24];
+    const auto end = std::to_chars(text, text + sizeof text, value, base).ptr;
+    if (base == 16) {
+        for (char* c = text; c != end; ++c) {
+            if (*c >= 'a') {
+                *c = static_cast<char>(*c - 'a' + 'A');
+            }
+        }
+    }
+    out.append(text, static_cast<std::size_t>(end - text));
+}
+
+// One directive's text, its argument taken from `args`. The codes: 's', 'c', 'd', 'f',
+// 'x' for %lX, 'X' for %llX and 'u' for %llu.
+void put_directive(emit_text& text, char code, brix_args& args) {
+    const brix_arg* a = args.take();
+    if (a == nullptr) {
+        return;
+    }
+    switch (code) {
+    case 's':
+        if (a->kind == brix_arg::STR && a->s != nullptr) {
+            text.append_string(a->s);
+        }
+        break;
+    case 'c':
+        text.push(static_cast<char>(a->as_signed()));
+        break;
+    case 'd':
+        put_number(text, static_cast<int>(a->as_signed()), 10);
+        break;
+    case 'f': {
+        char number[400];
+        const int length =
+            snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
+        text.append(number, static_cast<std::size_t>(length));
+        break;
+    }
+    case 'x':
+        put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
+        break;
+    default:
+        put_number(text, a->as_unsigned(), code == 'X' ? 16 : 10);
+        break;
+    }
+}
+
+// A format read once: its literal text, with the directives' places in it. Any other letter
+// after '%' stands for itself and is literal text; a lone trailing '%' writes nothing. An
+// unsupported length directive ends the pieces, with the message that ends the run.
+struct parsed_format {
+    struct piece {
+        std::size_t start, length; // of the literal text before the directive
+        char code;                 // the directive, 0 after the last literal text
+    };
+    const char* key = nullptr;
+    std::string fmt; // what was read, to tell a format from another at the same address
+    std::string literal;
+    std::vector<piece> pieces;
+    const char* unsupported = nullptr;
+    char bad = 0;
+    bool literal_format = false; // in the program's read-only image: cannot change
+};
+
+// The directive after a '%' at `p`: its code and length, code 0 for a letter that stands
+// for itself, or null length for an unsupported length directive.
+std::pair<char, int> read_directive(const char* p) {
+    switch (*p) {
+    case 's':
+    case 'c':
+    case 'd':
+    case 'f':
+        return {*p, 1};
+    case 'l':
+        if (p[1] == 'X') {
+            return {'x', 2};
+        }
+        if (p[1] == 'l' && (p[2] == 'X' || p[2] == 'u')) {
+            return {p[2], 3};
+        }
+        return {'?', 0};
+    default:
+        return {0, 1};
+    }
+}
+
+void parse_format(parsed_format& f, const char* fmt) {
+    f.key = fmt;
+    f.fmt = fmt;
+    f.literal.clear();
+    f.pieces.clear();
+    f.unsupported = nullptr;
+    std::size_t start = 0;
+    for (const char* p = fmt; *p != '\0' && !(*p == '%' && p[1] == '\0'); ++p) {
+        if (*p != '%') {
+            f.literal += *p;
+            continue;
+        }
+        const auto [code, length] = read_directive(p + 1);
+        if (length == 0) {
+            f.bad = p[2] == 'l' ? p[3] : p[2];
+            f.unsupported = p[2] == 'l'
+                                ? "Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n"
+                                : "Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n";
+            break;
+        }
+        if (code == 0) {
+            f.literal += p[1];
+        } else {
+            f.pieces.push_back({start, f.literal.size() - start, code});
+            start = f.literal.size();
+        }
+        p += length;
+    }
+    f.pieces.push_back({start, f.literal.size() - start, 0});
+    f.literal.append(emit_text::copy_block, '\0');
+}
+
+// The read-only parts of the program's own image, where its string literals lie.
+std::vector<std::pair<std::uintptr_t, std::uintptr_t>> read_only_image() {
+    std::vector<std::pair<std::uintptr_t, std::uintptr_t>> ranges;
+    dl_iterate_phdr(
+        [](dl_phdr_info* info, std::size_t, void* data) {
+            auto& found = *static_cast<decltype(ranges)*>(data);
+            for (int i = 0; i < info->dlpi_phnum; ++i) {
+                const ElfW(Phdr)& h = info->dlpi_phdr[i];
+                if (h.p_type == PT_LOAD && (h.p_flags & PF_W) == 0) {
+                    const std::uintptr_t begin = info->dlpi_addr + h.p_vaddr;
+                    found.emplace_back(begin, begin + h.p_memsz);
+                }
+            }
+            return 1; // the program itself comes first
+        },
+        &ranges);
+    return ranges;
+}
+
+bool is_literal(const char* p) {
+    static const auto ranges = read_only_image();
+    const auto address = reinterpret_cast<std::uintptr_t>(p);
+    return std::any_of(ranges.begin(), ranges.end(), [address](const auto& r) {
+        return address >= r.first && address < r.second;
+    });
+}
+
+// The formats are mostly the few templates of the generators, used over and over: each is
+// read once and kept by its address. A format that is not a literal of the program, and
+// so may have changed, is checked against its text at every use.
+const parsed_format& parsed(const char* fmt) {
+    static std::array<parsed_format, 1024> kept;
+    const auto address = reinterpret_cast<std::uintptr_t>(fmt);
+    parsed_format& f = kept[((address >> 3) * 0x9E3779B97F4A7C15ULL >> 54) % kept.size()];
+    if (f.key != fmt) {
+        parse_format(f, fmt);
+        f.literal_format = is_literal(fmt);
+    } else if (!f.literal_format && strcmp(f.fmt.c_str(), fmt) != 0) {
+        parse_format(f, fmt);
+    }
+    return f;
+}
+
+// Appends the text of one call; returns the parsed format for its unsupported directive.
+const parsed_format& format_into(emit_text& text, const char* fmt, brix_args args) {
+    const parsed_format& f = parsed(fmt);
+    for (const parsed_format::piece& p : f.pieces) {
+        text.append_padded(f.literal.data() + p.start, p.length);
+        if (p.code == 's' && args.next < args.count) {
+            // The most common directive, without the call.
+            const brix_arg& a = args.args[args.next++];
+            if (a.kind == brix_arg::STR && a.s != nullptr) {
+                text.append_string(a.s);
+            }
+        } else if (p.code != 0) {
+            put_directive(text, p.code, args);
+        }
+    }
+    return f;
+}
+} // namespace
+
 void brix_vemit(const char* fmt, brix_args args) {
     brix_vemit_to(brx_model_fp, fmt, args);
 }
 
 namespace {
-// Writes a number as printf's %d, %u or %X would: the writer's hot path, where a printf
-// per number would cost more than the rest of the line.
-template <class Number> void put_number(std::string& out, Number value, int base) {
-    char text[24];
-    const auto end = std::to_chars(text, text + sizeof text, value, base).ptr;
-    if (base == 16) {
-        for (char* c = text; c != end; ++c) {
-            *c = static_cast<char>(toupper(static_cast<unsigned char>(*c)));
+// The text to which a call's output is appended: a generated file's held text, or for any
+// other stream a piece of its own that goes out at the end of the call.
+emit_text& text_for(FILE* out, output_file*& output) {
+    static emit_text direct;
+    output = output_of(out);
+    direct.size = 0;
+    return output != nullptr ? output->held : direct;
+}
+
+// Ends a call: held text goes to stdio once there is enough of it, other text at once. A
+// call that failed on an unsupported directive writes what it has and reports no failed
+// write.
+void finish_call(FILE* out, output_file* output, emit_text& text, bool complete) {
+    if (output == nullptr) {
+        if (!text.write_to(out) && complete) {
+            brix_write_failed(out);
         }
+    } else if (text.size >= hold_limit && complete) {
+        hand_over(*output);
     }
-    out.append(text, end);
 }
 } // namespace
 
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args) {
-    // The text of one call is put together here and handed to stdio in one piece: a call
-    // into stdio per piece would cost more than the pieces.
-    static std::string text;
-    text.clear();
-    const auto fail = [out](const char* message, char c) {
-        fwrite_unlocked(text.data(), 1, text.size(), out);
-        brix_error(message, c);
-    };
-    for (const char* p = fmt; *p != '\0'; ++p) {
-        if (*p != '%') {
-            // The text up to the next directive in one piece.
-            const char* stop = strchrnul(p, '%');
-            text.append(p, stop);
-            p = stop - 1;
-            continue;
-        }
-        if (p[1] == '\0') {
-            break;
-        }
-        ++p;
-        const char c = *p;
-        if (c == 's') {
-            if (const brix_arg* a = args.take(); a && a->kind == brix_arg::STR && a->s) {
-                text += a->s;
-            }
-        } else if (c == 'c') {
-            if (const brix_arg* a = args.take()) {
-                text += static_cast<char>(a->as_signed());
-            }
-        } else if (c == 'd') {
-            if (const brix_arg* a = args.take()) {
-                put_number(text, static_cast<int>(a->as_signed()), 10);
-            }
-        } else if (c == 'f') {
-            if (const brix_arg* a = args.take()) {
-                char number[400];
-                const int length =
-                    snprintf(number, sizeof number, "%f", a->kind == brix_arg::DBL ? a->d : 0.0);
-                text.append(number, static_cast<std::size_t>(length));
-            }
-        } else if (c == 'l') {
-            ++p;
-            if (*p == 'X') {
-                if (const brix_arg* a = args.take()) {
-                    put_number(text, static_cast<uint32_t>(a->as_unsigned()), 16);
-                }
-            } else if (*p == 'l') {
-                ++p;
-                if (*p == 'X' || *p == 'u') {
-                    if (const brix_arg* a = args.take()) {
-                        put_number(text, a->as_unsigned(), *p == 'X' ? 16 : 10);
-                    }
-                } else {
-                    fail("Error: Unsupported format '%%ll%c' used in with 'brix_emit'.\n", *p);
-                }
-            } else {
-                fail("Error: Unsupported format '%%l%c' used in with 'brix_emit'.\n", *p);
-            }
-        } else {
-            text += c;
-        }
-    }
-    if (fwrite_unlocked(text.data(), 1, text.size(), out) != text.size()) {
-        brix_write_failed(out);
+    output_file* output = nullptr;
+    emit_text& text = text_for(out, output);
+    const parsed_format& f = format_into(text, fmt, args);
+    finish_call(out, output, text, f.unsupported == nullptr);
+    if (f.unsupported != nullptr) {
+        brix_error(f.unsupported, f.bad);
     }
 }
 
-namespace {
-// The generated files now open, with their names.
-std::vector<std::pair<FILE*, std::string>>& open_outputs() {
-    static std::vector<std::pair<FILE*, std::string>> outputs;
-    return outputs;
+void brix_write_text(FILE* out, std::string_view piece) {
+    output_file* output = nullptr;
+    emit_text& text = text_for(out, output);
+    text.append(piece.data(), piece.size());
+    finish_call(out, output, text, true);
 }
 
-// Generated files run to hundreds of megabytes: written in big pieces, they cost far
-// fewer system calls than in stdio's pages. The buffers are static, as a stream still
-// open at exit is flushed after every destructor has run.
-constexpr std::size_t big_buffer_size = std::size_t{1} << 20;
-constexpr int big_buffer_count = 4;
-char big_buffers[big_buffer_count][big_buffer_size];
-FILE* big_buffer_users[big_buffer_count] = {};
-
-void use_big_buffer(FILE* fp) {
-    for (int i = 0; i < big_buffer_count; ++i) {
-        if (big_buffer_users[i] == nullptr) {
-            if (setvbuf(fp, big_buffers[i], _IOFBF, big_buffer_size) == 0) {
-                big_buffer_users[i] = fp;
-            }
-            return;
-        }
+void brix_vformat(std::string& out, const char* fmt, brix_args args) {
+    static emit_text text;
+    text.size = 0;
+    const parsed_format& f = format_into(text, fmt, args);
+    out.append(text.data.get(), text.size);
+    if (f.unsupported != nullptr) {
+        brix_error(f.unsupported, f.bad);
     }
 }
-
-void release_big_buffer(FILE* fp) {
-    std::replace(std::begin(big_buffer_users), std::end(big_buffer_users), fp,
-                 static_cast<FILE*>(nullptr));
-}
-
-std::string output_name(FILE* fp) {
-    for (const auto& [stream, name] : open_outputs()) {
-        if (stream == fp) {
-            return name;
-        }
-    }
-    return "";
-}
-} // namespace
 
 FILE* brix_open_output(const std::string& name) {
     FILE* fp = fopen(name.c_str(), "w");
     if (fp != nullptr) {
-        use_big_buffer(fp);
-        open_outputs().emplace_back(fp, name);
+        open_outputs().push_back(std::make_unique<output_file>(output_file{fp, name, {}}));
     }
     return fp;
 }
@@ -258,18 +494,20 @@ void brix_write_failed(FILE* fp) {
 
 void brix_close_output(FILE*& fp) {
     FILE* const stream = fp;
+    if (output_file* output = output_of(stream)) {
+        hand_over(*output);
+    }
     // The pointer is cleared first: the way out flushes the model's stream if it is set.
     fp = nullptr;
     if (stream == brx_model_fp) {
         brx_model_fp = nullptr;
     }
     const std::string name = output_name(stream);
-    std::erase_if(open_outputs(), [stream](const auto& output) { return output.first == stream; });
+    last_output = nullptr;
+    std::erase_if(open_outputs(), [stream](const auto& output) { return output->fp == stream; });
     errno = 0;
     const bool failed = fflush(stream) != 0 || ferror(stream) != 0;
     const int error = errno;
-    // The slot is free from here; the stream uses its buffer until fclose returns.
-    release_big_buffer(stream);
     if (fclose(stream) != 0 || failed) {
         brix_write_failed(name.c_str(), error != 0 ? error : errno);
     }

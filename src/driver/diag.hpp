@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 // Name of the temporary pure description file; empty until main has chosen it.
 extern char pure_brix_file[100];
@@ -22,10 +23,13 @@ extern int brix_quiet_mode;
 
 struct brix_arg {
     enum kind_t { STR, INT, UINT, DBL, CHR } kind;
-    const char* s = nullptr;
-    long long i = 0;
-    unsigned long long u = 0;
-    double d = 0;
+    // The member that `kind` names; a directive that reads another kind sees 0.
+    union {
+        const char* s;
+        long long i;
+        unsigned long long u;
+        double d;
+    };
 
     brix_arg(const char* v) : kind(STR), s(v) {}
     brix_arg(const std::string& v) : kind(STR), s(v.c_str()) {}
@@ -38,9 +42,11 @@ struct brix_arg {
     brix_arg(unsigned long long v) : kind(UINT), u(v) {}
     brix_arg(double v) : kind(DBL), d(v) {}
 
-    long long as_signed() const { return kind == UINT ? static_cast<long long>(u) : i; }
+    long long as_signed() const {
+        return kind == UINT ? static_cast<long long>(u) : kind == INT || kind == CHR ? i : 0;
+    }
     unsigned long long as_unsigned() const {
-        return kind == UINT ? u : static_cast<unsigned long long>(i);
+        return kind == UINT ? u : static_cast<unsigned long long>(as_signed());
     }
 };
 
@@ -64,6 +70,10 @@ void brix_vyywarn(const char* fmt, brix_args args);
 void brix_vemit(const char* fmt, brix_args args);
 // brix_emit's format language, to another stream than the model's.
 void brix_vemit_to(FILE* out, const char* fmt, brix_args args);
+// Writes `text` as it is, where brix_emit_to would write it.
+void brix_write_text(FILE* out, std::string_view text);
+// brix_emit's format language, appended to a string.
+void brix_vformat(std::string& out, const char* fmt, brix_args args);
 // Writes a diagnostic's format to stderr in the diagnostics' format language.
 void brix_diag_format(const char* fmt, brix_args args);
 
@@ -86,6 +96,10 @@ template <class... A> void brix_yywarn(const char* fmt, const A&... a) {
 template <class... A> void brix_emit(const char* fmt, const A&... a) {
     const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
     brix_vemit(fmt, brix_args{v.data(), v.size()});
+}
+template <class... A> void brix_format(std::string& out, const char* fmt, const A&... a) {
+    const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};
+    brix_vformat(out, fmt, brix_args{v.data(), v.size()});
 }
 template <class... A> void brix_emit_to(FILE* out, const char* fmt, const A&... a) {
     const std::array<brix_arg, sizeof...(A)> v{brix_arg(a)...};

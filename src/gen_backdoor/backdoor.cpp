@@ -29,15 +29,11 @@ template <class... A> void out(const char* fmt, const A&... a) {
 }
 
 void out_tabs(int n) {
-    if (n > 0) {
-        out("%s", std::string(static_cast<size_t>(n), '\t'));
-    }
+    indent_code(n, *T().statements_fp);
 }
 
 void emit_tabs(int n) {
-    if (n > 0) {
-        brix_emit("%s", std::string(static_cast<size_t>(n), '\t'));
-    }
+    indent_code(n, brx_model_fp);
 }
 
 // ---- The levels above the object ----------------------------------------------------

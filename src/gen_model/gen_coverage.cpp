@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
+#include <tuple>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -132,12 +134,6 @@ long long bin_number(const brix_cvr_bin_value* v, const brix_enum_values& enum_v
 }
 
 } // namespace
-
-void indent_code(int n, FILE* stream) {
-    for (int i = 0; i < n; ++i) {
-        fputc('\t', stream);
-    }
-}
 
 int hdl_xmr_brix_hierarchy(const brix_list_tag* list) {
     for (const brix_list_tag* n = list; n != nullptr; n = n->next) {
@@ -359,11 +355,67 @@ std::string bit_pattern(uint32_t w, uint32_t i, char bit) {
     return p;
 }
 
-void emit_bit_bin(const char* head, uint32_t i, uint32_t w, const std::string& pattern,
-                  const char* end) {
-    brix_emit(head, static_cast<int>(i), static_cast<int>(w) + 1);
-    brix_emit("%s", pattern);
-    brix_emit(end);
+void put_bit_bin(std::string& out, const char* head, uint32_t i, uint32_t w,
+                 const std::string& pattern, const char* end) {
+    brix_format(out, head, static_cast<int>(i), static_cast<int>(w) + 1);
+    out += pattern;
+    brix_format(out, end);
+}
+
+// The bins of every bit of a `w`-bit field, and their number: writes of 0 and 1, then
+// reads unless the field is write-only.
+struct field_bins {
+    std::string text;
+    int count = 0;
+};
+
+field_bins make_field_bins(uint32_t w, bool write_only, bool read_only) {
+    field_bins b;
+    for (uint32_t i = 0; i < w; ++i) {
+        const std::string zero = bit_pattern(w, i, '0');
+        const std::string one = bit_pattern(w, i, '1');
+        put_bit_bin(b.text, C().rb_wr_as_0, i, w, zero, C().rb_write_end);
+        put_bit_bin(b.text, C().rb_wr_as_1, i, w, one, C().rb_write_end);
+        b.count += 2;
+        if (write_only) {
+            continue;
+        }
+        if (read_only) {
+            put_bit_bin(b.text, C().rb_rd, i, w, std::string(w, C().rb_any_bit), C().rb_read_end);
+            b.count += 1;
+            continue;
+        }
+        put_bit_bin(b.text, C().rb_rd_as_0, i, w, zero, C().rb_read_end);
+        put_bit_bin(b.text, C().rb_rd_as_1, i, w, one, C().rb_read_end);
+        b.count += 2;
+    }
+    return b;
+}
+
+// Fields of one width and kind have the same bins: those of fields up to this width are
+// made once (their text grows as the square of the width).
+constexpr uint32_t kept_bins_width = 64;
+
+void emit_field_bins(const brix_field_tag* f) {
+    const uint32_t w = f->type->bits;
+    const bool write_only = has_access(f, "wo");
+    const bool read_only = !write_only && is_read_only(f);
+    field_bins made;
+    const field_bins* b = &made;
+    if (w <= kept_bins_width) {
+        static std::map<std::tuple<const brix_cvr_templates*, uint32_t, bool, bool>, field_bins>
+            kept;
+        const auto key = std::make_tuple(&C(), w, write_only, read_only);
+        auto found = kept.find(key);
+        if (found == kept.end()) {
+            found = kept.emplace(key, make_field_bins(w, write_only, read_only)).first;
+        }
+        b = &found->second;
+    } else {
+        made = make_field_bins(w, write_only, read_only);
+    }
+    brix_emit("%s", b->text);
+    brix_emit(C().rb_weight, b->count);
 }
 
 } // namespace
@@ -381,26 +433,7 @@ void emit_reg_bits_cvr_class(const brix_register_type_tag* t) {
         brix_emit(C().rb_point_head, f->name,
                   static_cast<int>(wrapping_add(lsb, static_cast<long long>(w) - 1)),
                   static_cast<int>(lsb));
-        int n = 0;
-        for (uint32_t i = 0; i < w; ++i) {
-            const std::string zero = bit_pattern(w, i, '0');
-            const std::string one = bit_pattern(w, i, '1');
-            emit_bit_bin(C().rb_wr_as_0, i, w, zero, C().rb_write_end);
-            emit_bit_bin(C().rb_wr_as_1, i, w, one, C().rb_write_end);
-            n += 2;
-            if (has_access(f, "wo")) {
-                continue;
-            }
-            if (is_read_only(f)) {
-                emit_bit_bin(C().rb_rd, i, w, std::string(w, C().rb_any_bit), C().rb_read_end);
-                n += 1;
-                continue;
-            }
-            emit_bit_bin(C().rb_rd_as_0, i, w, zero, C().rb_read_end);
-            emit_bit_bin(C().rb_rd_as_1, i, w, one, C().rb_read_end);
-            n += 2;
-        }
-        brix_emit(C().rb_weight, n);
+        emit_field_bins(f);
         brix_emit(C().rb_point_tail);
     });
     brix_emit(C().rb_class_tail);

@@ -147,7 +147,5 @@ void emit_regfile_addrmap_cvtpnts(const brix_regfile_tag* regfile, uint64_t base
 void emit_block_addrmap_cvr_methods(const brix_block_type_tag* type, int indent);
 void emit_block_field_value_sample_method(const brix_block_type_tag* type);
 
-// Writes `n` tabs to a stream; nothing for `n` below 1.
-void indent_code(int n, FILE* stream);
 // 1 when a level of the list has an hdl_path written as a VHDL path.
 int hdl_xmr_brix_hierarchy(const brix_list_tag* list);

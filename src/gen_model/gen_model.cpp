@@ -1,9 +1,13 @@
 #include "gen_model/gen_model.hpp"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cctype>
 #include <cstring>
+#include <string_view>
 #include <strings.h>
+#include <unordered_map>
 
 #include "driver/options.hpp"
 #include "gen_model/gen_coverage.hpp"
@@ -43,6 +47,9 @@ std::string upper(const char* text) {
     return s;
 }
 
+// How often each name stands among the members of a class and their fields.
+using name_counts = std::unordered_map<std::string_view, int>;
+
 bool in_map(const brix_str2int_map& map, const std::string& key) {
     return get_str2int_map_value(map, key.c_str()) != 0;
 }
@@ -51,12 +58,13 @@ void note_emitted(brix_str2int_map& map, const std::string& key) {
     add_str2int_map_entry(map, brix_strdup(key.c_str()), 1);
 }
 
-void count_name(brix_str2int_map& names, const char* name) {
-    update_str2int_map(names, brix_strdup(name));
+void count_name(name_counts& names, const char* name) {
+    ++names[name];
 }
 
-bool counted_once(const brix_str2int_map& names, const char* name) {
-    return get_str2int_map_value(names, name) == 1;
+bool counted_once(const name_counts& names, const char* name) {
+    const auto found = names.find(name);
+    return found != names.end() && found->second == 1;
 }
 
 // The whole-word test of constraint bodies: a word stands alone when the characters on
@@ -157,11 +165,26 @@ int is_constrained(const brix_field_tag* f, const brix_register_type_tag* t) {
     return 0;
 }
 
-std::string reset_text(const char* written, const char* fmt, uint32_t bits) {
+// A reset value as written, else `<bits><suffix>` made in `buffer`.
+const char* reset_text(const char* written, std::string_view suffix, uint32_t bits,
+                       std::array<char, 32>& buffer) {
     if (written != nullptr) {
         return written;
     }
-    return std::to_string(bits) + fmt;
+    char* end = std::to_chars(buffer.data(), buffer.data() + 16, bits).ptr;
+    end += suffix.copy(end, buffer.data() + buffer.size() - 1 - end);
+    *end = '\0';
+    return buffer.data();
+}
+
+// The access constant of a field, `qvt_brx::<ACCESS>`, in a string kept for it.
+const std::string& access_constant(const char* access) {
+    static std::string text;
+    text.assign("qvt_brx::");
+    for (const char* c = access != nullptr ? access : ""; *c != '\0'; ++c) {
+        text += static_cast<char>(toupper(static_cast<unsigned char>(*c)));
+    }
+    return text;
 }
 
 void emit_attributes(const brix_attribute* list) {
@@ -241,8 +264,7 @@ int unmapped_of(const char* offset) {
 }
 
 // The alias assignments of one register's fields in a constructor.
-void emit_register_fields_construction(const brix_register_tag* reg,
-                                       const brix_str2int_map& names) {
+void emit_register_fields_construction(const brix_register_tag* reg, const name_counts& names) {
     const bool array = is_array(reg->array_size);
     for_each_real_field(reg->type->fields, [&](const brix_field_tag* f) {
         brix_emit(array ? L().field_alias_array_new : L().field_alias_new, reg->name, f->name,
@@ -255,7 +277,7 @@ void emit_register_fields_construction(const brix_register_tag* reg,
 }
 
 // The declarations of a register's field aliases in a regfile or block class.
-void emit_register_alias_decls(const brix_register_tag* reg, const brix_str2int_map& names) {
+void emit_register_alias_decls(const brix_register_tag* reg, const name_counts& names) {
     const bool array = is_array(reg->array_size);
     for_each_real_field(reg->type->fields, [&](const brix_field_tag* f) {
         if (array) {
@@ -275,7 +297,7 @@ void emit_register_alias_decls(const brix_register_tag* reg, const brix_str2int_
     });
 }
 
-void count_real_fields(brix_str2int_map& names, const brix_list_tag* fields) {
+void count_real_fields(name_counts& names, const brix_list_tag* fields) {
     for_each_real_field(fields, [&](const brix_field_tag* f) { count_name(names, f->name); });
 }
 
@@ -333,8 +355,7 @@ void emit_regfile_class(const brix_regfile_type_tag* rf, uint64_t d) {
             emit_register(r);
         }
     }
-    brix_str2int_map names;
-    initialize_str2int_map(names);
+    name_counts names;
     const std::string suffix = suffix_of(rf);
     brix_emit(L().regfile_class_head, suffix);
     for (const brix_list_tag* n = rf->registers; n != nullptr; n = n->next) {
@@ -382,7 +403,6 @@ void emit_regfile_class(const brix_regfile_type_tag* rf, uint64_t d) {
     note_emitted(all_regfiles, suffix);
     brix_emit("\n\n");
     brix_emit("\n\n");
-    free_str2int_map(names);
 }
 
 // ---- Blocks and systems -------------------------------------------------------------
@@ -497,7 +517,7 @@ bool seen_shared_memory(shared_members& shared, const brix_memory_tag* m) {
     return m->type->is_shared == 1 && shared.seen(m->name, m->type->name);
 }
 
-void emit_block_member_decls(const brix_block_type_tag* type, brix_str2int_map& names) {
+void emit_block_member_decls(const brix_block_type_tag* type, name_counts& names) {
     shared_members regs = shared_registers_of(type->name);
     shared_members mems = shared_memories_of(type->name);
     for_each_component<brix_block_domain_tag>(type->domains, [&](const brix_block_domain_tag*,
@@ -550,7 +570,7 @@ void emit_block_member_decls(const brix_block_type_tag* type, brix_str2int_map& 
     mems.clear();
 }
 
-void emit_block_alias_decls(const brix_block_type_tag* type, const brix_str2int_map& names) {
+void emit_block_alias_decls(const brix_block_type_tag* type, const name_counts& names) {
     shared_members regs = shared_registers_of(type->name);
     for_each_component<brix_block_domain_tag>(
         type->domains, [&](const brix_block_domain_tag*, const brix_list_tag* c) {
@@ -573,8 +593,7 @@ void emit_block_alias_decls(const brix_block_type_tag* type, const brix_str2int_
 }
 
 void emit_block_register(const brix_block_domain_tag* dom, const brix_register_tag* r,
-                         brix_offset_walk& walk, shared_members& shared,
-                         const brix_str2int_map& names) {
+                         brix_offset_walk& walk, shared_members& shared, const name_counts& names) {
     const uint64_t d = static_cast<uint64_t>(dom->bytes);
     const uint64_t words = register_words(r->type, d);
     check_no_shared_array(r);
@@ -634,7 +653,7 @@ void emit_block_regfile(const brix_block_domain_tag* dom, const brix_regfile_tag
 
 // Virtual registers are placed in their memory at run time and take no block offsets.
 void emit_block_vregister(const brix_block_type_tag* block, const brix_block_domain_tag* dom,
-                          const brix_vregister_tag* v, const brix_str2int_map& names) {
+                          const brix_vregister_tag* v, const name_counts& names) {
     const uint64_t d = static_cast<uint64_t>(dom->bytes);
     const brix_vregister_type_tag* t = v->type;
     raise(brix_largest_vregister_bytes, static_cast<uint32_t>(t->bytes));
@@ -672,8 +691,7 @@ void emit_block_vregister(const brix_block_type_tag* block, const brix_block_dom
     });
 }
 
-void emit_block_constructor(brix_block_type_tag* type, const brix_str2int_map& names,
-                            bool backdoor) {
+void emit_block_constructor(brix_block_type_tag* type, const name_counts& names, bool backdoor) {
     emit_container_ctor_head<brix_block_domain_tag>(type);
     const std::string suffix = suffix_of(type);
     shared_members regs = shared_registers_of(type->name);
@@ -908,10 +926,11 @@ void emit_register(const brix_register_tag* reg) {
             return;
         }
         const brix_field_type_tag* ft = f->type;
+        std::array<char, 32> hard;
+        std::array<char, 32> soft;
         brix_emit(L().reg_field_new, f->name, f->name, static_cast<int>(ft->bits),
-                  std::string("qvt_brx::") + upper(ft->access),
-                  reset_text(ft->hard_reset, "'h0", ft->bits),
-                  reset_text(ft->soft_reset, "'hx", ft->bits), static_cast<int>(lsb),
+                  access_constant(ft->access), reset_text(ft->hard_reset, "'h0", ft->bits, hard),
+                  reset_text(ft->soft_reset, "'hx", ft->bits, soft), static_cast<int>(lsb),
                   is_constrained(f, t));
     });
     emit_attributes(t->attributes);
@@ -985,8 +1004,7 @@ void emit_block_components(brix_block_type_tag* type, bool backdoor) {
 }
 
 void emit_block_itself(brix_block_type_tag* type, bool backdoor) {
-    brix_str2int_map names;
-    initialize_str2int_map(names);
+    name_counts names;
     const std::string suffix = suffix_of(type);
     const bool addr_map = can_cvr_block_addr_map(type, nullptr) != 0;
     if (addr_map) {
@@ -1006,7 +1024,6 @@ void emit_block_itself(brix_block_type_tag* type, bool backdoor) {
     }
     brix_emit(L().block_class_tail, suffix);
     note_emitted(all_blocks, suffix);
-    free_str2int_map(names);
     brix_emit("\n\n");
 }
 

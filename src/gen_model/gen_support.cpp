@@ -29,7 +29,9 @@ std::string brix_class_suffix(const char* scope_prefix, const char* name) {
 
 brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right) {
     brix_field_layout layout{0, {}};
+    size_t count = 0;
     for_each_field(fields, [&](const brix_field_tag* f) {
+        ++count;
         const uint64_t bits = f->type->bits;
         if (f->offset != nullptr) {
             layout.high = std::max<uint64_t>(layout.high, to_dec(f->offset) + bits);
@@ -37,6 +39,7 @@ brix_field_layout place_fields(const brix_list_tag* fields, int8_t left_to_right
             layout.high += bits;
         }
     });
+    layout.lsb.reserve(count);
     const bool ltr = left_to_right == 1;
     long long pos = ltr ? static_cast<long long>(layout.high) : 0;
     for_each_field(fields, [&](const brix_field_tag* f) {
@@ -96,4 +99,11 @@ uint64_t brix_memory_words(const brix_memory_type_tag* t, uint64_t domain_bytes)
 
 uint64_t brix_subsystem_words(uint64_t size, uint64_t bytes, uint64_t system_bytes) {
     return bytes > system_bytes ? size * get_ceil(bytes, system_bytes) : size;
+}
+
+void indent_code(int n, FILE* stream) {
+    static const std::string tabs(64, '\t');
+    for (; n > 0; n -= static_cast<int>(tabs.size())) {
+        brix_write_text(stream, std::string_view(tabs).substr(0, static_cast<size_t>(n)));
+    }
 }

@@ -34,6 +34,9 @@ extern brix_list_tag* brix_hierarchy;
 extern const brix_cvr_templates* brix_cvr_lang;
 extern const brix_bkdr_templates* brix_bkdr_lang;
 
+// Writes `n` tabs to a stream through the writer; nothing for `n` below 1.
+void indent_code(int n, FILE* stream);
+
 // `<scope_prefix>_<name>`, or `<name>` for a global definition.
 std::string brix_class_suffix(const char* scope_prefix, const char* name);
 
@@ -100,7 +103,8 @@ uint64_t get_regfile_size_in_block_offsets(const brix_regfile_type_tag* rf, uint
 namespace brix_gen {
 
 inline bool is_named(const char* text, const char* word) {
-    return text != nullptr && strcmp(text, word) == 0;
+    // Most names differ from the word in their first letter: no call for those.
+    return text != nullptr && text[0] == word[0] && strcmp(text, word) == 0;
 }
 
 // Fields called "unused" or "reserved" exist only as bits.

@@ -3,6 +3,7 @@
 // written leaves first, each type once.
 #include "gen_plan/gen_plan.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -23,12 +24,12 @@ brix_str2int_map planned_registers, planned_regfiles, planned_blocks, planned_sy
 brix_str2int_map* const plan_maps[] = {&planned_registers, &planned_regfiles, &planned_blocks,
                                        &planned_systems};
 
-// One line of the plan at `level` levels of four blanks.
-void put(int level, const std::string& text) {
-    for (int i = 0; i < level; ++i) {
-        fputs("    ", kpl_fp);
-    }
-    fputs(text.c_str(), kpl_fp);
+// One line of the plan at `level` levels of four blanks, put together from its pieces.
+template <class... Pieces> void put(int level, const Pieces&... pieces) {
+    static std::string line;
+    line.assign(static_cast<size_t>(4 * std::max(level, 0)), ' ');
+    (line += ... += pieces);
+    brix_write_text(kpl_fp, line);
 }
 
 template <class Type> std::string type_key(const Type* t) {
@@ -51,7 +52,7 @@ const char* attribute_line = "attribute string path = \"\";\n\n";
 
 // The head of a plan and its `path` attribute.
 void plan_head(int level, const char* kind, const std::string& key) {
-    put(level, "plan " + std::string(kind) + key + ";\n");
+    put(level, "plan ", kind, key, ";\n");
     put(level + 1, attribute_line);
 }
 
@@ -59,7 +60,7 @@ void plan_head(int level, const char* kind, const std::string& key) {
 void plan_tail(int level, brix_str2int_map& map, const std::string& key) {
     put(level, "endplan\n");
     note(map, key);
-    fputs("\n\n", kpl_fp);
+    brix_write_text(kpl_fp, "\n\n");
 }
 
 // The feature of an instance, one an array element: its head, the subplan of its type
@@ -69,14 +70,14 @@ void emit_instance_features(int level, const char* kind, const char* name, int32
                             const std::string& key, PathOf path_of) {
     const std::string subplan = "subplan " + std::string(kind) + key + " #(path=\"";
     if (array_size <= 1) {
-        put(level, "feature " + std::string(kind) + name + ";\n");
-        put(level + 1, subplan + path_of(-1));
+        put(level, "feature ", kind, name, ";\n");
+        put(level + 1, subplan, path_of(-1));
         put(level, "endfeature\n");
         return;
     }
     for (int32_t k = 0; k < array_size; ++k) {
-        put(level, "feature " + std::string(kind) + name + std::to_string(k) + ";\n");
-        put(level + 1, subplan + path_of(k));
+        put(level, "feature ", kind, name, std::to_string(k), ";\n");
+        put(level + 1, subplan, path_of(k));
         put(level, "endfeature\n");
     }
 }
@@ -103,10 +104,10 @@ void emit_register(const brix_register_type_tag* t, int level) {
         if (strcmp(f->name, "reserved") == 0 || strcmp(f->name, "unused") == 0) {
             continue;
         }
-        put(level + 1, "feature " + std::string(f->name) + "_bits;\n");
+        put(level + 1, "feature ", f->name, "_bits;\n");
         put(level + 2, "measure Group fcov;\n");
-        put(level + 3, "source = \"group instance: brx_cvr_reg_" + key + "::reg_bits.${path}." +
-                           f->name + "\";\n");
+        put(level + 3, "source = \"group instance: brx_cvr_reg_", key, "::reg_bits.${path}.",
+            f->name, "\";\n");
         put(level + 2, "endmeasure\n");
         put(level + 1, "endfeature\n");
     }
@@ -156,11 +157,11 @@ void emit_block_components(const brix_block_type_tag* type, int level) {
 // A feature that measures one of the block's covergroups.
 void emit_measure_feature(int level, const char* feature, const char* group,
                           const brix_block_type_tag* type) {
-    fputs("\n", kpl_fp);
-    put(level, "feature " + std::string(feature) + ";\n");
+    brix_write_text(kpl_fp, "\n");
+    put(level, "feature ", feature, ";\n");
     put(level + 1, "measure Group fcov;\n");
-    put(level + 2, "source = \"group instance: brx_block_" + type_key(type) + group +
-                       (is_top(type) ? "\";\n" : ".${path}\";\n"));
+    put(level + 2, "source = \"group instance: brx_block_", type_key(type), group,
+        is_top(type) ? "\";\n" : ".${path}\";\n");
     put(level + 1, "endmeasure\n");
     put(level, "endfeature\n");
 }
@@ -176,7 +177,7 @@ void emit_block_itself(const brix_block_type_tag* type, int level) {
             const std::string closing =
                 dom->name != nullptr ? "(" + std::string(dom->name) + ")\");\n" : "\");\n";
             if (dom->name != nullptr) {
-                put(j, "feature " + std::string(dom->name) + ";\n");
+                put(j, "feature ", dom->name, ";\n");
                 ++j;
             }
             for (const brix_list_tag* c = dom->components; c != nullptr; c = c->next) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 namespace {
@@ -80,6 +81,11 @@ TEST(Emit, Directives) {
     EXPECT_EQ(emitted([] { brix_emit("[%s][%s]", static_cast<const char*>(nullptr), ""); }),
               "[][]");
     EXPECT_EQ(emitted([] { brix_emit("%f", 1.5); }), "1.500000");
+    // A format read before and then changed in place is read again.
+    char fmt[] = "<%s>";
+    EXPECT_EQ(emitted([&] { brix_emit(fmt, "a"); }), "<a>");
+    memcpy(fmt, "%d%%", 5);
+    EXPECT_EQ(emitted([&] { brix_emit(fmt, 7); }), "7%");
 }
 
 TEST(EmitDeathTest, UnsupportedLengthFormatsEndTheRun) {
