@@ -299,6 +299,10 @@ void brix_read_model(const char* description_file, const char* top) {
                 pure_brix_file);
         brix_exit(1);
     }
+    // The pure description runs to tens of megabytes: read in big pieces, not stdio's
+    // pages. The buffer is static, as the stream stays open to the end of the run.
+    static char read_buffer[std::size_t{1} << 20];
+    setvbuf(yyin, read_buffer, _IOFBF, sizeof read_buffer);
     // The scanner may still stand on another input of this process.
     brix_scanner_restart(yyin);
     initialize();
