@@ -33,19 +33,13 @@ struct brix_str2voidptr_map_node_tag {
     brix_str2voidptr_map_node_tag* next;
 };
 
-// The side index of a map: open addressing over the nodes themselves, a slot of one
-// pointer per node or two, as maps can hold a few entries for every register.
-template <class Node> class brix_key_index {
+// The side index of a map, or of a scope's symbols: open addressing over the nodes
+// themselves, by the string at `Key`, a slot of one pointer per node or two, as maps can
+// hold a few entries for every register.
+template <class Node, auto Key = &Node::key> class brix_key_index {
   public:
     Node* find(std::string_view key) const {
-        if (slots_.empty()) {
-            return nullptr;
-        }
-        for (std::size_t i = slot_of(key);; i = (i + 1) & (slots_.size() - 1)) {
-            if (slots_[i] == nullptr || key == slots_[i]->key) {
-                return slots_[i];
-            }
-        }
+        return slots_.empty() ? nullptr : slots_[slot_for(key)];
     }
     // The node's key must not be in the index yet.
     void insert(Node* node) {
@@ -54,6 +48,16 @@ template <class Node> class brix_key_index {
         }
         place(node);
         ++count_;
+    }
+    // The node takes the place of the one of the same key, if any.
+    void assign(Node* node) {
+        if (!slots_.empty()) {
+            if (Node*& slot = slots_[slot_for(node->*Key)]; slot != nullptr) {
+                slot = node;
+                return;
+            }
+        }
+        insert(node);
     }
     void clear() {
         slots_.clear();
@@ -65,8 +69,16 @@ template <class Node> class brix_key_index {
     std::size_t slot_of(std::string_view key) const {
         return std::hash<std::string_view>{}(key) & (slots_.size() - 1);
     }
+    // The slot that holds the key, or the empty one where it would go.
+    std::size_t slot_for(std::string_view key) const {
+        std::size_t i = slot_of(key);
+        while (slots_[i] != nullptr && key != slots_[i]->*Key) {
+            i = (i + 1) & (slots_.size() - 1);
+        }
+        return i;
+    }
     void place(Node* node) {
-        std::size_t i = slot_of(node->key);
+        std::size_t i = slot_of(node->*Key);
         while (slots_[i] != nullptr) {
             i = (i + 1) & (slots_.size() - 1);
         }

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 #include "driver/options.hpp"
 #include "parser/action_support.hpp"
@@ -77,10 +78,10 @@ const char* field_type_display_name() {
 // Scopes -----------------------------------------------------------------------------
 
 void open_definition_scope(const char* name) {
-    const std::string scope_name = current_scope->name == nullptr
-                                       ? std::string(name)
-                                       : std::string(current_scope->name) + "_" + name;
-    switch_to_scope(create_child_scope(current_scope, brix_arena_strdup(scope_name.c_str())));
+    std::string scope_name = current_scope->name == nullptr
+                                 ? std::string(name)
+                                 : std::string(current_scope->name) + "_" + name;
+    switch_to_scope(create_child_scope(current_scope, std::move(scope_name)));
 }
 
 void close_definition_scope() {

@@ -224,24 +224,47 @@ TEST(Scopes, HashBucketsAndLookups) {
     EXPECT_EQ(lookup_local_symbol("register")->kind, BRIX_KEYWORD);
     char name[] = "g";
     create_and_insert_symrec(global_scope, name, BRIX_REGISTER_TYPE, nullptr);
-    brix_scope* child = create_child_scope(global_scope, "c");
-    EXPECT_EQ(global_scope->first_child, child);
+    brix_scope* child = create_child_scope(global_scope, std::string("c"));
     switch_to_scope(child);
     EXPECT_EQ(lookup_local_symbol("g"), nullptr);
     EXPECT_NE(lookup_global_symbol("g"), nullptr);
     // Keywords are shared records, found in every scope.
     EXPECT_EQ(lookup_local_symbol("vhdl_path"), lookup_global_symbol("vhdl_path"));
-    // Newest first: ab and ba share a bucket.
+    // Newest first, below and past the size at which a scope is indexed.
+    std::vector<std::string> names;
+    for (int i = 0; i < 40; ++i) {
+        names.push_back("s" + std::to_string(i % 20));
+    }
+    for (int i = 0; i < 40; ++i) {
+        const brix_symrec* sym = create_and_insert_symrec(
+            child, names[i].data(), i < 20 ? BRIX_FIELD : BRIX_LABEL, nullptr);
+        EXPECT_EQ(lookup_local_symbol(names[i].c_str()), sym);
+        EXPECT_EQ(lookup_local_symbol("s0")->kind, i < 20 ? BRIX_FIELD : BRIX_LABEL);
+    }
+    // A closed scope's symbols are gone; its inline definitions keep a copy of its name.
+    brix_scope* grandchild = create_child_scope(child, "f");
+    switch_to_scope(grandchild);
+    EXPECT_EQ(lookup_local_symbol("s1"), nullptr);
+    char e[] = "e";
+    create_and_insert_symrec(grandchild, e, BRIX_ENUM_NAME, e);
+    EXPECT_STREQ(lasting_scope_name(child), "c");
+    close_scope();
+    EXPECT_EQ(current_scope, child);
+    EXPECT_EQ(lookup_local_symbol("e"), nullptr);
+    EXPECT_EQ(lookup_local_symbol("s1")->kind, BRIX_LABEL);
+    close_scope();
+    EXPECT_EQ(current_scope, global_scope);
+    EXPECT_EQ(lookup_local_symbol("s1"), nullptr);
+    // The global scope chains its symbols, newest first: ab and ba share a bucket.
     char ab[] = "ab", ba[] = "ba", ab2[] = "ab";
-    create_and_insert_symrec(child, ab, BRIX_FIELD, nullptr);
-    create_and_insert_symrec(child, ba, BRIX_LABEL, nullptr);
-    const brix_symrec* newer = create_and_insert_symrec(child, ab2, BRIX_ENUM_NAME, nullptr);
-    EXPECT_EQ(lookup_local_symbol("ab"), newer);
-    EXPECT_EQ(lookup_local_symbol("ba")->kind, BRIX_LABEL);
-    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("ab")), newer);
+    create_and_insert_symrec(global_scope, ab, BRIX_FIELD, nullptr);
+    create_and_insert_symrec(global_scope, ba, BRIX_LABEL, nullptr);
+    const brix_symrec* newer = create_and_insert_symrec(global_scope, ab2, BRIX_ENUM_NAME, nullptr);
+    EXPECT_EQ(lookup_global_symbol("ab"), newer);
+    EXPECT_EQ(lookup_global_symbol("ba")->kind, BRIX_LABEL);
+    EXPECT_EQ(scope_bucket_head(global_scope, brix_symbol_hash("ab")), newer);
     EXPECT_EQ(newer->next->next->name, std::string("ab"));
-    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("x")), nullptr);
-    EXPECT_EQ(create_child_scope(global_scope, "d"), child->parent->first_child->next_sibling);
+    EXPECT_EQ(scope_bucket_head(global_scope, brix_symbol_hash("x")), nullptr);
 }
 
 } // namespace
