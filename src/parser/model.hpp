@@ -110,10 +110,15 @@ struct brix_mem_initial {
     char decrement;
 };
 
-// Where a declaration stands in the user's files, for outputs that point back at it.
+// Where a declaration stands in the user's files, for outputs that point back at it. Every
+// record holds one, so it takes eight bytes: the file by its number in a table of names,
+// and the line; a line too long for 32 bits goes whole into a table of its own.
 struct brix_src_pos {
-    const char* file; // null when the record was made outside a description
-    unsigned long long line;
+    uint32_t place = 0; // 0 outside a description, else a file's number, or a wide position's
+    uint32_t short_line = 0;
+
+    const char* file() const; // null when the record was made outside a description
+    unsigned long long line() const;
 };
 
 struct brix_field_type_tag {

@@ -215,6 +215,30 @@ TEST(SystemConsistency, PathsOfMultiDomainInstancesAgreeForward) {
                      "multiple domain instantiations of block 'x'.\n\n");
 }
 
+TEST(SourcePositions, FileAndLineOfEveryRange) {
+    const std::string saved_name = brix_src_file_name;
+    const unsigned long long saved_line = brix_src_file_linenum;
+    const auto here = [](const char* file, unsigned long long line) {
+        std::strcpy(brix_src_file_name, file);
+        brix_src_file_linenum = line;
+        return brix_here();
+    };
+    const brix_src_pos a = here("a.brix", 7);
+    const brix_src_pos wide = here("a.brix", (1ULL << 40) + 3);
+    const brix_src_pos b = here("b.brix", UINT32_MAX);
+    const brix_src_pos a2 = here("a.brix", 0);
+    EXPECT_STREQ(a.file(), "a.brix");
+    EXPECT_EQ(a.line(), 7u);
+    EXPECT_STREQ(wide.file(), "a.brix");
+    EXPECT_EQ(wide.line(), (1ULL << 40) + 3);
+    EXPECT_STREQ(b.file(), "b.brix");
+    EXPECT_EQ(b.line(), UINT32_MAX);
+    EXPECT_EQ(a2.file(), a.file());
+    EXPECT_EQ(brix_src_pos{}.file(), nullptr);
+    EXPECT_EQ(brix_src_pos{}.line(), 0u);
+    here(saved_name.c_str(), saved_line);
+}
+
 TEST(Scopes, HashBucketsAndLookups) {
     EXPECT_EQ(brix_symbol_hash("a"), 193u % 109);
     EXPECT_EQ(brix_symbol_hash(""), 0u);
