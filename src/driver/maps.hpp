@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -98,10 +99,27 @@ template <class Node, auto Key = &Node::key> class brix_key_index {
     std::size_t count_ = 0;
 };
 
+// Room for a map's nodes, and for the keys of the maps that keep their own: carved from
+// blocks that double in size and all go when the map is freed, so that an entry costs no
+// heap block of its own.
+class brix_map_room {
+  public:
+    // Aligned for any node.
+    void* take(std::size_t size);
+    void clear();
+
+  private:
+    std::vector<std::unique_ptr<char[]>> blocks_;
+    std::size_t block_size_ = 0;
+    char* next_ = nullptr;
+    std::size_t left_ = 0;
+};
+
 template <class Node, int N> struct brix_map {
     Node* buckets[N] = {};
     Node* tails[N] = {}; // last node of each chain, so that adding does not walk it
     brix_key_index<Node> index;
+    brix_map_room room;
 };
 using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
 using brix_str2str_map = brix_map<brix_str2str_map_node_tag, BRIX_STR2STR_MAP_SIZE>;
