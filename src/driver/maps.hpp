@@ -7,7 +7,9 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -39,9 +41,7 @@ struct brix_str2voidptr_map_node_tag {
 // hold a few entries for every register.
 template <class Node, auto Key = &Node::key> class brix_key_index {
   public:
-    Node* find(std::string_view key) const {
-        return slots_.empty() ? nullptr : slots_[slot_for(key)];
-    }
+    Node* find(const char* key) const { return slots_.empty() ? nullptr : slots_[slot_for(key)]; }
     // The node's key must not be in the index yet.
     void insert(Node* node) {
         if ((count_ + 1) * 2 > slots_.size()) {
@@ -64,16 +64,23 @@ template <class Node, auto Key = &Node::key> class brix_key_index {
         slots_.clear();
         slots_.shrink_to_fit();
         count_ = 0;
+        shift_ = 64;
     }
 
   private:
-    std::size_t slot_of(std::string_view key) const {
-        return std::hash<std::string_view>{}(key) & (slots_.size() - 1);
+    // FNV-1a over the bytes, spread by a multiplication whose top bits pick the slot: keys
+    // are short, and one pass reads each once.
+    std::size_t slot_of(const char* key) const {
+        uint64_t hash = 14695981039346656037ULL;
+        for (const char* p = key; *p != '\0'; ++p) {
+            hash = (hash ^ static_cast<unsigned char>(*p)) * 1099511628211ULL;
+        }
+        return static_cast<std::size_t>((hash * 0x9E3779B97F4A7C15ULL) >> shift_);
     }
     // The slot that holds the key, or the empty one where it would go.
-    std::size_t slot_for(std::string_view key) const {
+    std::size_t slot_for(const char* key) const {
         std::size_t i = slot_of(key);
-        while (slots_[i] != nullptr && key != slots_[i]->*Key) {
+        while (slots_[i] != nullptr && std::strcmp(key, slots_[i]->*Key) != 0) {
             i = (i + 1) & (slots_.size() - 1);
         }
         return i;
@@ -88,6 +95,7 @@ template <class Node, auto Key = &Node::key> class brix_key_index {
     void grow() {
         std::vector<Node*> old(std::max<std::size_t>(8, slots_.size() * 2), nullptr);
         old.swap(slots_);
+        shift_ = 64 - static_cast<unsigned>(std::countr_zero(slots_.size()));
         for (Node* node : old) {
             if (node != nullptr) {
                 place(node);
@@ -97,6 +105,7 @@ template <class Node, auto Key = &Node::key> class brix_key_index {
 
     std::vector<Node*> slots_;
     std::size_t count_ = 0;
+    unsigned shift_ = 64; // 64 less the bits of a slot number
 };
 
 // Room for a map's nodes, and for the keys of the maps that keep their own: carved from

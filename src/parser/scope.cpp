@@ -1,10 +1,9 @@
 #include "parser/scope.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <deque>
-#include <string_view>
-#include <unordered_map>
 
 #include "parser/parse_state.hpp"
 
@@ -18,24 +17,42 @@ brix_scope* current_scope = nullptr;
 brix_scope* global_scope = nullptr;
 
 namespace {
-std::unordered_map<std::string_view, brix_symrec*>& keyword_index() {
-    static std::unordered_map<std::string_view, brix_symrec*> index;
-    return index;
+// The keyword symbols by the first character of their word. Every lookup that finds no
+// symbol of the scope asks here, mostly for a name that is no keyword: the first two
+// characters tell most of those apart without a call.
+std::array<std::vector<brix_symrec*>, 256>& keywords_by_first() {
+    static std::array<std::vector<brix_symrec*>, 256> table;
+    return table;
+}
+
+brix_symrec* keyword_symbol(const char* name) {
+    for (brix_symrec* sym : keywords_by_first()[static_cast<unsigned char>(name[0])]) {
+        if (sym->name[1] == name[1] && std::strcmp(sym->name, name) == 0) {
+            return sym;
+        }
+    }
+    return nullptr;
 }
 
 brix_scope& global_storage() {
     static brix_scope global;
     return global;
 }
-// The open child scopes, innermost last, and their symbols, in order of insertion. Both
-// only grow at the end and shrink from it, so their elements stay in place meanwhile.
-std::deque<brix_scope>& open_scopes() {
-    static std::deque<brix_scope> scopes;
-    return scopes;
-}
-std::deque<brix_symrec>& open_symbols() {
-    static std::deque<brix_symrec> symbols;
-    return symbols;
+// The open child scopes, innermost last, and their symbols, in order of insertion. The
+// records below the counts are in use; those above wait for reuse, as a stack that rises
+// and falls with each field would otherwise take and give back memory every time. It all
+// goes back when the parser returns to the global scope. A deque keeps every record in
+// place as it grows.
+struct open_stacks {
+    std::deque<brix_scope> scopes;
+    std::size_t scope_count = 0;
+    std::deque<brix_symrec> symbols;
+    std::size_t symbol_count = 0;
+};
+
+open_stacks& stacks() {
+    static open_stacks s;
+    return s;
 }
 
 brix_symrec*& bucket_head(brix_scope* scope, unsigned bucket) {
@@ -68,9 +85,9 @@ brix_symrec* newest_in_chains(const brix_scope* scope, const char* name) {
 }
 
 brix_symrec* newest_on_stack(const brix_scope* scope, const char* name) {
-    auto& symbols = open_symbols();
-    for (std::size_t i = symbols.size(); i-- > scope->first_symbol;) {
-        brix_symrec& sym = symbols[i];
+    auto& s = stacks();
+    for (std::size_t i = s.symbol_count; i-- > scope->first_symbol;) {
+        brix_symrec& sym = s.symbols[i];
         if (sym.name[0] == name[0] && std::strcmp(sym.name, name) == 0) {
             return &sym;
         }
@@ -89,18 +106,16 @@ brix_symrec* lookup_in(const brix_scope* scope, const char* name) {
     if (brix_symrec* sym = own_symbol(scope, name)) {
         return sym;
     }
-    const auto& keywords = keyword_index();
-    const auto it = keywords.find(name);
-    return it == keywords.end() ? nullptr : it->second;
+    return keyword_symbol(name);
 }
 
 // Every symbol of the scope but the keywords, oldest first.
 std::vector<brix_symrec*> symbols_of(brix_scope* scope) {
     std::vector<brix_symrec*> symbols;
     if (scope != global_scope) {
-        auto& stack = open_symbols();
-        for (std::size_t i = scope->first_symbol; i < stack.size(); ++i) {
-            symbols.push_back(&stack[i]);
+        auto& s = stacks();
+        for (std::size_t i = scope->first_symbol; i < s.symbol_count; ++i) {
+            symbols.push_back(&s.symbols[i]);
         }
         return symbols;
     }
@@ -116,10 +131,23 @@ std::vector<brix_symrec*> symbols_of(brix_scope* scope) {
 }
 
 brix_scope* push_scope(brix_scope* parent) {
-    brix_scope& scope = open_scopes().emplace_back();
+    auto& s = stacks();
+    if (s.scope_count == s.scopes.size()) {
+        s.scopes.emplace_back();
+    }
+    brix_scope& scope = s.scopes[s.scope_count++];
     scope.parent = parent;
-    scope.first_symbol = open_symbols().size();
+    scope.first_symbol = s.symbol_count;
     return &scope;
+}
+
+// Leaves a closed scope's record as a new one, but for the room its members hold.
+void reset(brix_scope& scope) {
+    scope.name = nullptr;
+    scope.symbol_count = 0;
+    scope.newest.clear();
+    scope.own_name.clear();
+    scope.lasting_name = nullptr;
 }
 } // namespace
 
@@ -134,16 +162,17 @@ unsigned brix_symbol_hash(const char* name) {
 }
 
 void initialize() {
-    open_scopes().clear();
-    open_symbols().clear();
+    stacks() = open_stacks{};
     global_scope = &global_storage();
     *global_scope = brix_scope{};
-    keyword_index().clear();
+    for (auto& keywords : keywords_by_first()) {
+        keywords.clear();
+    }
     for (int i = 0; i < BRIX_NUM_KEYWORDS; ++i) {
         auto* sym = new (brix_new_record<brix_symrec>())
             brix_symrec{brix_strdup(brix_keywords[i]), BRIX_KEYWORD, nullptr, nullptr};
         symrecs_for_keywords[i] = sym;
-        keyword_index().emplace(sym->name, sym);
+        keywords_by_first()[static_cast<unsigned char>(sym->name[0])].push_back(sym);
         link_symbol(global_scope, sym);
     }
     current_scope = global_scope;
@@ -192,10 +221,12 @@ void close_scope() {
     if (closed == global_scope) {
         return;
     }
-    auto& symbols = open_symbols();
-    symbols.erase(symbols.begin() + static_cast<std::ptrdiff_t>(closed->first_symbol),
-                  symbols.end());
-    open_scopes().pop_back();
+    auto& s = stacks();
+    s.symbol_count = closed->first_symbol;
+    reset(*closed);
+    if (--s.scope_count == 0) {
+        s = open_stacks{};
+    }
 }
 
 brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, void* data) {
@@ -204,7 +235,12 @@ brix_symrec* create_and_insert_symrec(brix_scope* scope, char* name, int kind, v
         sym = new (brix_new_record<brix_symrec>()) brix_symrec{name, kind, data, nullptr};
         link_symbol(scope, sym);
     } else {
-        sym = &open_symbols().emplace_back(brix_symrec{name, kind, data, nullptr});
+        auto& s = stacks();
+        if (s.symbol_count == s.symbols.size()) {
+            s.symbols.emplace_back();
+        }
+        sym = &s.symbols[s.symbol_count++];
+        *sym = brix_symrec{name, kind, data, nullptr};
     }
     if (++scope->symbol_count == indexed_scope_size) {
         // Oldest first, so that the newest of each name stays.
