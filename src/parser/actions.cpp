@@ -26,14 +26,19 @@ template <class T> void append_linked(T*& head, T* item) {
     }
 }
 
-char* concat(std::initializer_list<const char*> parts) {
+std::string joined(std::initializer_list<const char*> parts) {
     std::string s;
     for (const char* p : parts) {
         if (p != nullptr) {
             s += p;
         }
     }
-    return brix_strdup(s.c_str());
+    return s;
+}
+
+// A piece of a path, freed once joined into the next.
+char* concat(std::initializer_list<const char*> parts) {
+    return brix_strdup(joined(parts).c_str());
 }
 
 brix_hdl_path_tag* tmp_hdl_path_tail = nullptr;
@@ -134,7 +139,8 @@ char* hdl_path_percent_subscript(char* ident) {
 }
 
 char* join_hdl_path_identifier(char* ident, char* rest) {
-    char* path = concat({ident, rest});
+    // A whole path stays with the model.
+    char* path = brix_arena_strdup(joined({ident, rest}).c_str());
     brix_free(ident);
     brix_free(rest);
     if (const char* first = std::strstr(path, "%d");
