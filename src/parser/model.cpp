@@ -64,9 +64,13 @@ brix_cvr_spec_tag* get_cvr_spec(const char* text) {
 }
 
 namespace {
-// Numbers count from 1; 0 stands for no place. With the top bit set, a number is that of
-// a position whose line does not fit in 32 bits.
+// A place packs a file's number, counted from 1, in the 7 bits below the top one and the
+// line in the 24 bits below those. With the top bit set, the rest is the number of a whole
+// position in the table of wide ones.
 constexpr uint32_t wide_place = 0x80000000U;
+constexpr int line_bits = 24;
+constexpr uint32_t packed_files = 0x7FU;
+constexpr unsigned long long packed_lines = (1ULL << line_bits) - 1;
 
 struct src_tables {
     std::deque<std::string> files; // in place, for the pointers handed out
@@ -89,16 +93,22 @@ uint32_t file_number(const char* name) {
     t.numbers.emplace(t.files.emplace_back(name), number);
     return number;
 }
+
+std::pair<uint32_t, unsigned long long> unpacked(uint32_t place) {
+    if ((place & wide_place) != 0) {
+        return tables().wide[place & ~wide_place];
+    }
+    return {place >> line_bits, place & packed_lines};
+}
 } // namespace
 
 const char* brix_src_pos::file() const {
-    const uint32_t number =
-        (place & wide_place) != 0 ? tables().wide[place & ~wide_place].first : place;
+    const uint32_t number = unpacked(place).first;
     return number == 0 ? nullptr : tables().files[number - 1].c_str();
 }
 
 unsigned long long brix_src_pos::line() const {
-    return (place & wide_place) != 0 ? tables().wide[place & ~wide_place].second : short_line;
+    return unpacked(place).second;
 }
 
 brix_src_pos brix_here() {
@@ -109,12 +119,12 @@ brix_src_pos brix_here() {
         last_name = brix_src_file_name;
         last = file_number(brix_src_file_name);
     }
-    if (brix_src_file_linenum <= UINT32_MAX) {
-        return {last, static_cast<uint32_t>(brix_src_file_linenum)};
+    if (last <= packed_files && brix_src_file_linenum <= packed_lines) {
+        return {(last << line_bits) | static_cast<uint32_t>(brix_src_file_linenum)};
     }
     auto& wide = tables().wide;
     wide.emplace_back(last, brix_src_file_linenum);
-    return {static_cast<uint32_t>(wide.size() - 1) | wide_place, 0};
+    return {static_cast<uint32_t>(wide.size() - 1) | wide_place};
 }
 
 void initialize_constraint_defaults(brix_constraint_tag* c) {

@@ -225,12 +225,22 @@ TEST(SourcePositions, FileAndLineOfEveryRange) {
     };
     const brix_src_pos a = here("a.brix", 7);
     const brix_src_pos wide = here("a.brix", (1ULL << 40) + 3);
+    const brix_src_pos edge = here("a.brix", (1ULL << 24) - 1);
     const brix_src_pos b = here("b.brix", UINT32_MAX);
     const brix_src_pos a2 = here("a.brix", 0);
+    std::vector<brix_src_pos> many; // past the files whose number packs with the line
+    for (int i = 0; i < 200; ++i) {
+        many.push_back(here(("f" + std::to_string(i)).c_str(), i));
+    }
+    for (int i = 0; i < 200; ++i) {
+        EXPECT_EQ(many[i].file(), "f" + std::to_string(i));
+        EXPECT_EQ(many[i].line(), static_cast<unsigned long long>(i));
+    }
     EXPECT_STREQ(a.file(), "a.brix");
     EXPECT_EQ(a.line(), 7u);
     EXPECT_STREQ(wide.file(), "a.brix");
     EXPECT_EQ(wide.line(), (1ULL << 40) + 3);
+    EXPECT_EQ(edge.line(), (1ULL << 24) - 1);
     EXPECT_STREQ(b.file(), "b.brix");
     EXPECT_EQ(b.line(), UINT32_MAX);
     EXPECT_EQ(a2.file(), a.file());
