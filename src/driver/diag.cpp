@@ -618,28 +618,40 @@ bool in_arena(const void* p) {
 }
 } // namespace
 
+namespace {
+// Memory carved front to back from big blocks.
+struct arena_lane {
+    char* next = nullptr;
+    std::size_t left = 0;
+};
+} // namespace
+
 void* brix_arena_alloc(std::size_t size, std::size_t alignment) {
     constexpr std::size_t block_size = std::size_t{1} << 20;
-    static char* next = nullptr;
-    static std::size_t left = 0;
+    // Words and the small records of lesser alignment have a lane of their own: mixed with
+    // the pointer-aligned records, each would leave padding behind it.
+    static arena_lane aligned;
+    static arena_lane packed;
     if (size > block_size / 4) {
         return brix_malloc(size);
     }
-    std::size_t pad = (alignment - reinterpret_cast<std::uintptr_t>(next) % alignment) % alignment;
-    if (next == nullptr || pad + size > left) {
+    arena_lane& lane = alignment >= alignof(void*) ? aligned : packed;
+    std::size_t pad =
+        (alignment - reinterpret_cast<std::uintptr_t>(lane.next) % alignment) % alignment;
+    if (lane.next == nullptr || pad + size > lane.left) {
         // The rest of the block is left unused; a failed allocation gives null, as malloc.
-        next = static_cast<char*>(brix_malloc(block_size));
-        if (next == nullptr) {
-            left = 0;
+        lane.next = static_cast<char*>(brix_malloc(block_size));
+        if (lane.next == nullptr) {
+            lane.left = 0;
             return nullptr;
         }
-        arena_blocks().emplace(next, next + block_size);
-        left = block_size;
+        arena_blocks().emplace(lane.next, lane.next + block_size);
+        lane.left = block_size;
         pad = 0;
     }
-    void* p = next + pad;
-    next += pad + size;
-    left -= pad + size;
+    void* p = lane.next + pad;
+    lane.next += pad + size;
+    lane.left -= pad + size;
     return p;
 }
 

@@ -2,6 +2,8 @@
 
 #include "driver/diag.hpp"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -64,10 +66,8 @@ template <class Map, class Node> Node* find_for_update(Map& map, const char* key
 
 template <class Map, class Fn> void free_map(Map& map, Fn free_node) {
     for (auto& b : map.buckets) {
-        for (auto* n = b; n != nullptr;) {
-            auto* next = n->next;
+        for (auto* n = b; n != nullptr; n = n->next) {
             free_node(n);
-            n = next;
         }
         b = nullptr;
     }
@@ -75,6 +75,11 @@ template <class Map, class Fn> void free_map(Map& map, Fn free_node) {
         t = nullptr;
     }
     map.index.clear();
+    map.room.clear();
+}
+
+template <class Node, class Map, class Value> Node* new_node(Map& map, char* key, Value value) {
+    return new (map.room.take(sizeof(Node))) Node{key, value, nullptr};
 }
 
 } // namespace
@@ -91,22 +96,57 @@ void initialize_str2voidptr_map(brix_str2voidptr_map& map) {
 
 brix_str2int_map_node_tag* add_str2int_map_entry(brix_str2int_map& map, char* key,
                                                  long long value) {
-    return add_node(map, new brix_str2int_map_node_tag{key, value, nullptr},
+    // These maps own their keys: each is kept in the map's room, right behind its node.
+    const std::size_t size = std::strlen(key) + 1;
+    using node = brix_str2int_map_node_tag;
+    auto* n = new (map.room.take(sizeof(node) + size)) node{nullptr, value, nullptr};
+    n->key = static_cast<char*>(std::memcpy(reinterpret_cast<char*>(n + 1), key, size));
+    brix_free(key);
+    return add_node(map, n,
                     "Error: add_str2int_map_entry - Attempted to add key '%s' 2nd time on a "
                     "unique key map.");
 }
 
 brix_str2str_map_node_tag* add_str2str_map_entry(brix_str2str_map& map, char* key, char* value) {
-    return add_node(map, new brix_str2str_map_node_tag{key, value, nullptr},
+    return add_node(map, new_node<brix_str2str_map_node_tag>(map, key, value),
                     "Error: add_str2str_map_entry - Attempted to add key '%s' 2nd time on a "
                     "unique key map.");
 }
 
 brix_str2voidptr_map_node_tag* add_str2voidptr_map_entry(brix_str2voidptr_map& map, char* key,
                                                          void* value) {
-    return add_node(map, new brix_str2voidptr_map_node_tag{key, value, nullptr},
+    return add_node(map, new_node<brix_str2voidptr_map_node_tag>(map, key, value),
                     "Error: add_str2voidptr_map_entry - Attempted to add key '%s' 2nd time on a "
                     "unique key map.");
+}
+
+void* brix_map_room::take(std::size_t size) {
+    constexpr std::size_t alignment =
+        std::max({alignof(brix_str2int_map_node_tag), alignof(brix_str2str_map_node_tag),
+                  alignof(brix_str2voidptr_map_node_tag)});
+    size = (size + alignment - 1) / alignment * alignment;
+    if (size > left_) {
+        // The first block holds a few entries; the blocks double up to a size whose
+        // unused tail does not matter.
+        constexpr std::size_t first_block = 256;
+        constexpr std::size_t largest_block = std::size_t{1} << 16;
+        block_size_ = block_size_ == 0 ? first_block : std::min(block_size_ * 2, largest_block);
+        const std::size_t block = std::max(block_size_, size);
+        next_ = blocks_.emplace_back(new char[block]).get();
+        left_ = block;
+    }
+    void* p = next_;
+    next_ += size;
+    left_ -= size;
+    return p;
+}
+
+void brix_map_room::clear() {
+    blocks_.clear();
+    blocks_.shrink_to_fit();
+    block_size_ = 0;
+    next_ = nullptr;
+    left_ = 0;
 }
 
 void update_str2int_map(brix_str2int_map& map, char* key) {
@@ -147,10 +187,7 @@ void* get_str2voidptr_map_value(const brix_str2voidptr_map& map, const char* key
 }
 
 void free_str2int_map(brix_str2int_map& map) {
-    free_map(map, [](brix_str2int_map_node_tag* n) {
-        brix_free(n->key);
-        delete n;
-    });
+    free_map(map, [](brix_str2int_map_node_tag*) {}); // the keys go with the room
 }
 
 void free_str2str_map(brix_str2str_map& map, int mode) {
@@ -161,7 +198,6 @@ void free_str2str_map(brix_str2str_map& map, int mode) {
             }
             brix_free(n->value);
         }
-        delete n;
     });
 }
 
@@ -170,7 +206,6 @@ void free_str2voidptr_map(brix_str2voidptr_map& map, int mode) {
         if (mode == 1) {
             brix_free(n->key);
         }
-        delete n;
     });
 }
 

@@ -7,8 +7,11 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
+#include <cstring>
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -33,20 +36,12 @@ struct brix_str2voidptr_map_node_tag {
     brix_str2voidptr_map_node_tag* next;
 };
 
-// The side index of a map: open addressing over the nodes themselves, a slot of one
-// pointer per node or two, as maps can hold a few entries for every register.
-template <class Node> class brix_key_index {
+// The side index of a map, or of a scope's symbols: open addressing over the nodes
+// themselves, by the string at `Key`, a slot of one pointer per node or two, as maps can
+// hold a few entries for every register.
+template <class Node, auto Key = &Node::key> class brix_key_index {
   public:
-    Node* find(std::string_view key) const {
-        if (slots_.empty()) {
-            return nullptr;
-        }
-        for (std::size_t i = slot_of(key);; i = (i + 1) & (slots_.size() - 1)) {
-            if (slots_[i] == nullptr || key == slots_[i]->key) {
-                return slots_[i];
-            }
-        }
-    }
+    Node* find(const char* key) const { return slots_.empty() ? nullptr : slots_[slot_for(key)]; }
     // The node's key must not be in the index yet.
     void insert(Node* node) {
         if ((count_ + 1) * 2 > slots_.size()) {
@@ -55,18 +50,43 @@ template <class Node> class brix_key_index {
         place(node);
         ++count_;
     }
+    // The node takes the place of the one of the same key, if any.
+    void assign(Node* node) {
+        if (!slots_.empty()) {
+            if (Node*& slot = slots_[slot_for(node->*Key)]; slot != nullptr) {
+                slot = node;
+                return;
+            }
+        }
+        insert(node);
+    }
     void clear() {
         slots_.clear();
         slots_.shrink_to_fit();
         count_ = 0;
+        shift_ = 64;
     }
 
   private:
-    std::size_t slot_of(std::string_view key) const {
-        return std::hash<std::string_view>{}(key) & (slots_.size() - 1);
+    // FNV-1a over the bytes, spread by a multiplication whose top bits pick the slot: keys
+    // are short, and one pass reads each once.
+    std::size_t slot_of(const char* key) const {
+        uint64_t hash = 14695981039346656037ULL;
+        for (const char* p = key; *p != '\0'; ++p) {
+            hash = (hash ^ static_cast<unsigned char>(*p)) * 1099511628211ULL;
+        }
+        return static_cast<std::size_t>((hash * 0x9E3779B97F4A7C15ULL) >> shift_);
+    }
+    // The slot that holds the key, or the empty one where it would go.
+    std::size_t slot_for(const char* key) const {
+        std::size_t i = slot_of(key);
+        while (slots_[i] != nullptr && std::strcmp(key, slots_[i]->*Key) != 0) {
+            i = (i + 1) & (slots_.size() - 1);
+        }
+        return i;
     }
     void place(Node* node) {
-        std::size_t i = slot_of(node->key);
+        std::size_t i = slot_of(node->*Key);
         while (slots_[i] != nullptr) {
             i = (i + 1) & (slots_.size() - 1);
         }
@@ -75,6 +95,7 @@ template <class Node> class brix_key_index {
     void grow() {
         std::vector<Node*> old(std::max<std::size_t>(8, slots_.size() * 2), nullptr);
         old.swap(slots_);
+        shift_ = 64 - static_cast<unsigned>(std::countr_zero(slots_.size()));
         for (Node* node : old) {
             if (node != nullptr) {
                 place(node);
@@ -84,12 +105,30 @@ template <class Node> class brix_key_index {
 
     std::vector<Node*> slots_;
     std::size_t count_ = 0;
+    unsigned shift_ = 64; // 64 less the bits of a slot number
+};
+
+// Room for a map's nodes, and for the keys of the maps that keep their own: carved from
+// blocks that double in size and all go when the map is freed, so that an entry costs no
+// heap block of its own.
+class brix_map_room {
+  public:
+    // Aligned for any node.
+    void* take(std::size_t size);
+    void clear();
+
+  private:
+    std::vector<std::unique_ptr<char[]>> blocks_;
+    std::size_t block_size_ = 0;
+    char* next_ = nullptr;
+    std::size_t left_ = 0;
 };
 
 template <class Node, int N> struct brix_map {
     Node* buckets[N] = {};
     Node* tails[N] = {}; // last node of each chain, so that adding does not walk it
     brix_key_index<Node> index;
+    brix_map_room room;
 };
 using brix_str2int_map = brix_map<brix_str2int_map_node_tag, BRIX_STR2INT_MAP_SIZE>;
 using brix_str2str_map = brix_map<brix_str2str_map_node_tag, BRIX_STR2STR_MAP_SIZE>;

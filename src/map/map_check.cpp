@@ -30,7 +30,7 @@ using findings = std::set<finding>;
 
 void report(findings& out, const brix_src_pos& at, severity level, std::string message,
             const char* id) {
-    out.insert({at.file != nullptr ? at.file : "", at.line, level, std::move(message), id});
+    out.insert({at.file() != nullptr ? at.file() : "", at.line(), level, std::move(message), id});
 }
 
 std::string quoted(const std::string& s) {
@@ -40,7 +40,7 @@ std::string quoted(const std::string& s) {
 // Of a pair, the finding stands at the declaration that comes later in the files.
 const brix_src_pos& later(const brix_src_pos& a, const brix_src_pos& b) {
     const auto key = [](const brix_src_pos& p) {
-        return std::make_tuple(std::string_view(p.file != nullptr ? p.file : ""), p.line);
+        return std::make_tuple(std::string_view(p.file() != nullptr ? p.file() : ""), p.line());
     };
     return key(a) < key(b) ? b : a;
 }
@@ -463,9 +463,9 @@ struct definition {
 // Two definitions are one when they stand at one place under one name: copies of a
 // definition keep its position.
 bool same_definition(const definition& a, const definition& b) {
-    return a.type == b.type && a.src.line == b.src.line &&
-           std::string_view(a.src.file != nullptr ? a.src.file : "") ==
-               std::string_view(b.src.file != nullptr ? b.src.file : "");
+    return a.type == b.type && a.src.line() == b.src.line() &&
+           std::string_view(a.src.file() != nullptr ? a.src.file() : "") ==
+               std::string_view(b.src.file() != nullptr ? b.src.file() : "");
 }
 
 void check_class_name(findings& out, std::unordered_map<std::string, definition>& classes,
@@ -532,8 +532,8 @@ struct walk_state {
 };
 
 std::string definition_key(const brix_src_pos& src, const std::string& name) {
-    return std::string(src.file != nullptr ? src.file : "") + ":" + std::to_string(src.line) + ":" +
-           name;
+    return std::string(src.file() != nullptr ? src.file() : "") + ":" + std::to_string(src.line()) +
+           ":" + name;
 }
 
 void check_node(walk_state& s, const map_node& n, bool in_array) {

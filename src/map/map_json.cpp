@@ -101,8 +101,8 @@ class json_writer {
 
 void write_source(json_writer& w, const brix_src_pos& src) {
     w.key("file");
-    w.optional_string(src.file != nullptr ? src.file : "");
-    w.field("line", src.line);
+    w.optional_string(src.file() != nullptr ? src.file() : "");
+    w.field("line", src.line());
 }
 
 void write_fields(json_writer& w, const std::vector<map_field>& fields) {

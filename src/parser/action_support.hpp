@@ -121,7 +121,8 @@ Type* resolve_instance_type(Type* definition, brix_str2voidptr_map* shared_copie
     return copy;
 }
 
-// The scope prefix of an inline definition: the name of the scope it stands in.
+// The scope prefix of an inline definition: the name of the scope it stands in, one copy
+// shared by every definition there.
 inline char* current_scope_prefix() {
-    return current_scope->name != nullptr ? brix_strdup(current_scope->name) : nullptr;
+    return lasting_scope_name(current_scope);
 }

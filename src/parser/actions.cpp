@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 #include "driver/options.hpp"
 #include "parser/action_support.hpp"
@@ -25,14 +26,19 @@ template <class T> void append_linked(T*& head, T* item) {
     }
 }
 
-char* concat(std::initializer_list<const char*> parts) {
+std::string joined(std::initializer_list<const char*> parts) {
     std::string s;
     for (const char* p : parts) {
         if (p != nullptr) {
             s += p;
         }
     }
-    return brix_strdup(s.c_str());
+    return s;
+}
+
+// A piece of a path, freed once joined into the next.
+char* concat(std::initializer_list<const char*> parts) {
+    return brix_strdup(joined(parts).c_str());
 }
 
 brix_hdl_path_tag* tmp_hdl_path_tail = nullptr;
@@ -77,10 +83,10 @@ const char* field_type_display_name() {
 // Scopes -----------------------------------------------------------------------------
 
 void open_definition_scope(const char* name) {
-    const std::string scope_name = current_scope->name == nullptr
-                                       ? std::string(name)
-                                       : std::string(current_scope->name) + "_" + name;
-    switch_to_scope(create_child_scope(current_scope, brix_arena_strdup(scope_name.c_str())));
+    std::string scope_name = current_scope->name == nullptr
+                                 ? std::string(name)
+                                 : std::string(current_scope->name) + "_" + name;
+    switch_to_scope(create_child_scope(current_scope, std::move(scope_name)));
 }
 
 void close_definition_scope() {
@@ -133,7 +139,8 @@ char* hdl_path_percent_subscript(char* ident) {
 }
 
 char* join_hdl_path_identifier(char* ident, char* rest) {
-    char* path = concat({ident, rest});
+    // A whole path stays with the model.
+    char* path = brix_arena_strdup(joined({ident, rest}).c_str());
     brix_free(ident);
     brix_free(rest);
     if (const char* first = std::strstr(path, "%d");

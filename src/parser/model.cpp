@@ -2,7 +2,11 @@
 
 #include <cstring>
 #include <string>
-#include <unordered_set>
+#include <deque>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 brix_block_type_tag* all_block_types = nullptr;
 brix_system_type_tag* all_system_types = nullptr;
@@ -10,7 +14,7 @@ brix_system_type_tag* all_system_types = nullptr;
 namespace {
 // The constant defaults that no one may free.
 char default_access_rw[] = "rw";
-char default_memory_noise_ro[] = "ro";
+char default_noise_ro[] = "ro";
 
 // The five initialisers without `_defaults` in their name guard against a null record.
 bool null_record(const void* p, const char* warning) {
@@ -59,15 +63,68 @@ brix_cvr_spec_tag* get_cvr_spec(const char* text) {
     return spec;
 }
 
-brix_src_pos brix_here() {
-    // Hash lines name the same file many times over: keep one copy of each name, so that
-    // records can hold the pointer after the scanner's buffer has moved on.
-    static std::unordered_set<std::string> names;
-    static const std::string* last = nullptr;
-    if (last == nullptr || *last != brix_src_file_name) {
-        last = &*names.insert(brix_src_file_name).first;
+namespace {
+// A place packs a file's number, counted from 1, in the 7 bits below the top one and the
+// line in the 24 bits below those. With the top bit set, the rest is the number of a whole
+// position in the table of wide ones.
+constexpr uint32_t wide_place = 0x80000000U;
+constexpr int line_bits = 24;
+constexpr uint32_t packed_files = 0x7FU;
+constexpr unsigned long long packed_lines = (1ULL << line_bits) - 1;
+
+struct src_tables {
+    std::deque<std::string> files; // in place, for the pointers handed out
+    std::unordered_map<std::string_view, uint32_t> numbers;
+    std::vector<std::pair<uint32_t, unsigned long long>> wide; // file number and line
+};
+
+src_tables& tables() {
+    static src_tables t;
+    return t;
+}
+
+uint32_t file_number(const char* name) {
+    auto& t = tables();
+    const auto it = t.numbers.find(name);
+    if (it != t.numbers.end()) {
+        return it->second;
     }
-    return {last->c_str(), brix_src_file_linenum};
+    const auto number = static_cast<uint32_t>(t.files.size() + 1);
+    t.numbers.emplace(t.files.emplace_back(name), number);
+    return number;
+}
+
+std::pair<uint32_t, unsigned long long> unpacked(uint32_t place) {
+    if ((place & wide_place) != 0) {
+        return tables().wide[place & ~wide_place];
+    }
+    return {place >> line_bits, place & packed_lines};
+}
+} // namespace
+
+const char* brix_src_pos::file() const {
+    const uint32_t number = unpacked(place).first;
+    return number == 0 ? nullptr : tables().files[number - 1].c_str();
+}
+
+unsigned long long brix_src_pos::line() const {
+    return unpacked(place).second;
+}
+
+brix_src_pos brix_here() {
+    // Hash lines name the same file many times over: the last one's number is kept.
+    static std::string last_name;
+    static uint32_t last = 0;
+    if (last == 0 || last_name != brix_src_file_name) {
+        last_name = brix_src_file_name;
+        last = file_number(brix_src_file_name);
+    }
+    if (last <= packed_files && brix_src_file_linenum <= packed_lines) {
+        return {(last << line_bits) | static_cast<uint32_t>(brix_src_file_linenum)};
+    }
+    auto& wide = tables().wide;
+    wide.emplace_back(last, brix_src_file_linenum);
+    return {static_cast<uint32_t>(wide.size() - 1) | wide_place};
 }
 
 void initialize_constraint_defaults(brix_constraint_tag* c) {
@@ -134,7 +191,7 @@ void initialize_register_type_defaults(brix_register_type_tag* t) {
     t->bytes = -1;
     t->left_to_right = -1;
     t->is_shared = -1;
-    t->noise = brix_strdup("ro");
+    t->noise = default_noise_ro;
     t->src = brix_here();
 }
 
@@ -164,7 +221,7 @@ void initialize_mem_initial_defaults(brix_mem_initial* i) {
 void initialize_memory_type_defaults(brix_memory_type_tag* t) {
     *t = {};
     t->access = default_access_rw;
-    t->noise = default_memory_noise_ro;
+    t->noise = default_noise_ro;
     t->is_shared = -1;
     t->src = brix_here();
 }

@@ -110,15 +110,21 @@ struct brix_mem_initial {
     char decrement;
 };
 
-// Where a declaration stands in the user's files, for outputs that point back at it.
+// Where a declaration stands in the user's files, for outputs that point back at it. Every
+// record holds one, so it takes four bytes: a file's number and the line, packed; a
+// position that does not fit is kept whole in a table of its own.
 struct brix_src_pos {
-    const char* file; // null when the record was made outside a description
-    unsigned long long line;
+    uint32_t place = 0; // 0 outside a description
+
+    const char* file() const; // null when the record was made outside a description
+    unsigned long long line() const;
 };
 
+// The position stands beside the 32-bit members of a record, where it takes no padding.
 struct brix_field_type_tag {
     char* name;
     uint32_t bits;
+    brix_src_pos src;
     char* access;
     char* hard_reset;
     char* soft_reset;
@@ -127,7 +133,6 @@ struct brix_field_type_tag {
     brix_cvr_spec_tag* cvr_spec;
     brix_enum_type* enum_type;
     brix_cvr_pnt* coverpoint;
-    brix_src_pos src;
 };
 
 struct brix_field_tag {
@@ -161,13 +166,13 @@ struct brix_register_type_tag {
 struct brix_register_tag {
     char* name;
     int32_t array_size;
+    brix_src_pos src;
     brix_hdl_path_tag* hdl_path;
     char* offset;
     char* increment;
     char* rw_flag;
     brix_register_type_tag* type;
     brix_cvr_spec_tag* cvr_spec;
-    brix_src_pos src;
 };
 
 struct brix_vregister_type_tag {

@@ -46,6 +46,13 @@ void mark(brix_cvr_spec_tag* to, const brix_cvr_spec_tag* from) {
     mark_reg_bits_and_field_vals(to, from);
 }
 
+// A spec with all three settings unsaid, for a sum that no record keeps.
+brix_cvr_spec_tag unsaid_spec() {
+    brix_cvr_spec_tag spec{};
+    initialize_cvr_spec(&spec);
+    return spec;
+}
+
 brix_cvr_spec_tag* ensure(brix_cvr_spec_tag*& spec) {
     if (spec == nullptr) {
         spec = new_all_unsaid_cvr_spec();
@@ -123,10 +130,10 @@ void check_block_domain(brix_block_type_tag* type, brix_block_domain_tag* d,
         case BRIX_REGISTER: {
             auto* r = static_cast<brix_register_tag*>(n->data);
             resolve_instance(r, r->type->cvr_spec, d->cvr_spec, spec);
-            brix_cvr_spec_tag* local = new_all_unsaid_cvr_spec();
-            check_register_type(r->type, r->cvr_spec, local);
+            brix_cvr_spec_tag local = unsaid_spec();
+            check_register_type(r->type, r->cvr_spec, &local);
             if (d->cvr_used != nullptr) {
-                mark_reg_bits_and_field_vals(d->cvr_used, local);
+                mark_reg_bits_and_field_vals(d->cvr_used, &local);
             }
             break;
         }
@@ -144,18 +151,18 @@ void check_block_domain(brix_block_type_tag* type, brix_block_domain_tag* d,
         case BRIX_REGFILE: {
             auto* rf = static_cast<brix_regfile_tag*>(n->data);
             resolve_instance(rf, rf->type->cvr_spec, d->cvr_spec, spec);
-            brix_cvr_spec_tag* sum = new_all_unsaid_cvr_spec();
+            brix_cvr_spec_tag sum = unsaid_spec();
             for (brix_list_tag* rn = rf->type->registers; rn != nullptr; rn = rn->next) {
                 auto* r = static_cast<brix_register_tag*>(rn->data);
                 brix_cvr_spec_tag* s = ensure(r->cvr_spec);
                 inherit(s, r->type->cvr_spec);
                 inherit(s, rf->cvr_spec);
-                brix_cvr_spec_tag* local = new_all_unsaid_cvr_spec();
-                check_register_type(r->type, r->cvr_spec, local);
-                mark(sum, local);
+                brix_cvr_spec_tag local = unsaid_spec();
+                check_register_type(r->type, r->cvr_spec, &local);
+                mark(&sum, &local);
             }
             if (d->cvr_used != nullptr) {
-                mark_reg_bits_and_field_vals(d->cvr_used, sum);
+                mark_reg_bits_and_field_vals(d->cvr_used, &sum);
             }
             break;
         }
@@ -221,10 +228,10 @@ void check_system_component(Instance* inst, brix_system_domain_tag* d, brix_cvr_
     inherit(s, inst->type->cvr_spec);
     inherit(s, d->cvr_spec);
     inherit(s, spec);
-    brix_cvr_spec_tag* local = new_all_unsaid_cvr_spec();
-    check_type(inst->type, s, local, inst->domain);
+    brix_cvr_spec_tag local = unsaid_spec();
+    check_type(inst->type, s, &local, inst->domain);
     if (d->cvr_used != nullptr) {
-        mark(d->cvr_used, local);
+        mark(d->cvr_used, &local);
     }
 }
 

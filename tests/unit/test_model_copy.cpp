@@ -215,6 +215,40 @@ TEST(SystemConsistency, PathsOfMultiDomainInstancesAgreeForward) {
                      "multiple domain instantiations of block 'x'.\n\n");
 }
 
+TEST(SourcePositions, FileAndLineOfEveryRange) {
+    const std::string saved_name = brix_src_file_name;
+    const unsigned long long saved_line = brix_src_file_linenum;
+    const auto here = [](const char* file, unsigned long long line) {
+        std::strcpy(brix_src_file_name, file);
+        brix_src_file_linenum = line;
+        return brix_here();
+    };
+    const brix_src_pos a = here("a.brix", 7);
+    const brix_src_pos wide = here("a.brix", (1ULL << 40) + 3);
+    const brix_src_pos edge = here("a.brix", (1ULL << 24) - 1);
+    const brix_src_pos b = here("b.brix", UINT32_MAX);
+    const brix_src_pos a2 = here("a.brix", 0);
+    std::vector<brix_src_pos> many; // past the files whose number packs with the line
+    for (int i = 0; i < 200; ++i) {
+        many.push_back(here(("f" + std::to_string(i)).c_str(), i));
+    }
+    for (int i = 0; i < 200; ++i) {
+        EXPECT_EQ(many[i].file(), "f" + std::to_string(i));
+        EXPECT_EQ(many[i].line(), static_cast<unsigned long long>(i));
+    }
+    EXPECT_STREQ(a.file(), "a.brix");
+    EXPECT_EQ(a.line(), 7u);
+    EXPECT_STREQ(wide.file(), "a.brix");
+    EXPECT_EQ(wide.line(), (1ULL << 40) + 3);
+    EXPECT_EQ(edge.line(), (1ULL << 24) - 1);
+    EXPECT_STREQ(b.file(), "b.brix");
+    EXPECT_EQ(b.line(), UINT32_MAX);
+    EXPECT_EQ(a2.file(), a.file());
+    EXPECT_EQ(brix_src_pos{}.file(), nullptr);
+    EXPECT_EQ(brix_src_pos{}.line(), 0u);
+    here(saved_name.c_str(), saved_line);
+}
+
 TEST(Scopes, HashBucketsAndLookups) {
     EXPECT_EQ(brix_symbol_hash("a"), 193u % 109);
     EXPECT_EQ(brix_symbol_hash(""), 0u);
@@ -224,24 +258,47 @@ TEST(Scopes, HashBucketsAndLookups) {
     EXPECT_EQ(lookup_local_symbol("register")->kind, BRIX_KEYWORD);
     char name[] = "g";
     create_and_insert_symrec(global_scope, name, BRIX_REGISTER_TYPE, nullptr);
-    brix_scope* child = create_child_scope(global_scope, "c");
-    EXPECT_EQ(global_scope->first_child, child);
+    brix_scope* child = create_child_scope(global_scope, std::string("c"));
     switch_to_scope(child);
     EXPECT_EQ(lookup_local_symbol("g"), nullptr);
     EXPECT_NE(lookup_global_symbol("g"), nullptr);
     // Keywords are shared records, found in every scope.
     EXPECT_EQ(lookup_local_symbol("vhdl_path"), lookup_global_symbol("vhdl_path"));
-    // Newest first: ab and ba share a bucket.
+    // Newest first, below and past the size at which a scope is indexed.
+    std::vector<std::string> names;
+    for (int i = 0; i < 40; ++i) {
+        names.push_back("s" + std::to_string(i % 20));
+    }
+    for (int i = 0; i < 40; ++i) {
+        const brix_symrec* sym = create_and_insert_symrec(
+            child, names[i].data(), i < 20 ? BRIX_FIELD : BRIX_LABEL, nullptr);
+        EXPECT_EQ(lookup_local_symbol(names[i].c_str()), sym);
+        EXPECT_EQ(lookup_local_symbol("s0")->kind, i < 20 ? BRIX_FIELD : BRIX_LABEL);
+    }
+    // A closed scope's symbols are gone; its inline definitions keep a copy of its name.
+    brix_scope* grandchild = create_child_scope(child, "f");
+    switch_to_scope(grandchild);
+    EXPECT_EQ(lookup_local_symbol("s1"), nullptr);
+    char e[] = "e";
+    create_and_insert_symrec(grandchild, e, BRIX_ENUM_NAME, e);
+    EXPECT_STREQ(lasting_scope_name(child), "c");
+    close_scope();
+    EXPECT_EQ(current_scope, child);
+    EXPECT_EQ(lookup_local_symbol("e"), nullptr);
+    EXPECT_EQ(lookup_local_symbol("s1")->kind, BRIX_LABEL);
+    close_scope();
+    EXPECT_EQ(current_scope, global_scope);
+    EXPECT_EQ(lookup_local_symbol("s1"), nullptr);
+    // The global scope chains its symbols, newest first: ab and ba share a bucket.
     char ab[] = "ab", ba[] = "ba", ab2[] = "ab";
-    create_and_insert_symrec(child, ab, BRIX_FIELD, nullptr);
-    create_and_insert_symrec(child, ba, BRIX_LABEL, nullptr);
-    const brix_symrec* newer = create_and_insert_symrec(child, ab2, BRIX_ENUM_NAME, nullptr);
-    EXPECT_EQ(lookup_local_symbol("ab"), newer);
-    EXPECT_EQ(lookup_local_symbol("ba")->kind, BRIX_LABEL);
-    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("ab")), newer);
+    create_and_insert_symrec(global_scope, ab, BRIX_FIELD, nullptr);
+    create_and_insert_symrec(global_scope, ba, BRIX_LABEL, nullptr);
+    const brix_symrec* newer = create_and_insert_symrec(global_scope, ab2, BRIX_ENUM_NAME, nullptr);
+    EXPECT_EQ(lookup_global_symbol("ab"), newer);
+    EXPECT_EQ(lookup_global_symbol("ba")->kind, BRIX_LABEL);
+    EXPECT_EQ(scope_bucket_head(global_scope, brix_symbol_hash("ab")), newer);
     EXPECT_EQ(newer->next->next->name, std::string("ab"));
-    EXPECT_EQ(scope_bucket_head(child, brix_symbol_hash("x")), nullptr);
-    EXPECT_EQ(create_child_scope(global_scope, "d"), child->parent->first_child->next_sibling);
+    EXPECT_EQ(scope_bucket_head(global_scope, brix_symbol_hash("x")), nullptr);
 }
 
 } // namespace
