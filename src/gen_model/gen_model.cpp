@@ -47,8 +47,55 @@ std::string upper(const char* text) {
     return s;
 }
 
-// How often each name stands among the members of a class and their fields.
-using name_counts = std::unordered_map<std::string_view, int>;
+// How often each name stands among the members of a class and their fields. A block may
+// hold a million registers, so each name takes one slot of 16 bytes, open-addressed; the
+// names are the model's own and outlive the count.
+class name_counts {
+  public:
+    void add(const char* name) {
+        if ((used_ + 1) * 5 > slots_.size() * 4) {
+            grow();
+        }
+        const std::size_t length = strlen(name);
+        slot& s = slots_[find(name, length)];
+        if (s.name == nullptr) {
+            s = {name, static_cast<std::uint32_t>(length), 0};
+            ++used_;
+        }
+        ++s.count;
+    }
+    bool once(const char* name) const {
+        return !slots_.empty() && slots_[find(name, strlen(name))].count == 1;
+    }
+
+  private:
+    struct slot {
+        const char* name = nullptr;
+        std::uint32_t length = 0;
+        std::uint32_t count = 0;
+    };
+    // The slot of the name, or the empty one where it would go.
+    std::size_t find(const char* name, std::size_t length) const {
+        const std::size_t mask = slots_.size() - 1;
+        std::size_t i = std::hash<std::string_view>{}({name, length}) & mask;
+        while (slots_[i].name != nullptr &&
+               (slots_[i].length != length || std::memcmp(slots_[i].name, name, length) != 0)) {
+            i = (i + 1) & mask;
+        }
+        return i;
+    }
+    void grow() {
+        std::vector<slot> old(std::max<std::size_t>(16, slots_.size() * 2));
+        old.swap(slots_);
+        for (const slot& s : old) {
+            if (s.name != nullptr) {
+                slots_[find(s.name, s.length)] = s;
+            }
+        }
+    }
+    std::vector<slot> slots_;
+    std::size_t used_ = 0;
+};
 
 bool in_map(const brix_str2int_map& map, const std::string& key) {
     return get_str2int_map_value(map, key.c_str()) != 0;
@@ -59,12 +106,11 @@ void note_emitted(brix_str2int_map& map, const std::string& key) {
 }
 
 void count_name(name_counts& names, const char* name) {
-    ++names[name];
+    names.add(name);
 }
 
 bool counted_once(const name_counts& names, const char* name) {
-    const auto found = names.find(name);
-    return found != names.end() && found->second == 1;
+    return names.once(name);
 }
 
 // The whole-word test of constraint bodies: a word stands alone when the characters on
