@@ -652,6 +652,10 @@ unsigned brix_tcl_state_epoch() {
     return quiet.epoch();
 }
 
+void brix_tcl_command_started() {
+    quiet.command_started();
+}
+
 bool brix_placed_like_declaration(std::string_view name) {
     // `proc` is placed like a description command.
     static const name_set names(true);

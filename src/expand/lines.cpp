@@ -616,6 +616,8 @@ int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
     if (argc != 4) {
         brix_error("Wrong # args: should be \"proc name args body\"\n");
     }
+    // `info` may have been replaced since the last declaration.
+    brix_tcl_command_started();
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
