@@ -140,6 +140,9 @@ struct body {
     bool compiled;
 };
 
+// Their compiled code goes with them, and other code may then be compiled at its address.
+void bodies_released();
+
 // The bodies met so far, by text, and by the word a body came as: a literal word comes back
 // at every call, and is held here so that its address stays its own. Bodies made afresh
 // at each call (substituted) would fill it without reuse, so it is emptied when full.
@@ -164,6 +167,7 @@ class body_cache {
         return entry->second;
     }
     void clear() {
+        bodies_released();
         for (const auto& [text, entry] : by_text_) {
             Tcl_DecrRefCount(entry.script);
         }
@@ -223,6 +227,10 @@ class quiet_stretch {
 };
 
 quiet_stretch quiet;
+
+void bodies_released() {
+    quiet.evaluated();
+}
 
 // brix_direct_writes' answer, asked again once the epoch or the namespace that `puts` is
 // looked up from has changed.
@@ -650,6 +658,10 @@ void brix_forget_bodies() {
 
 unsigned brix_tcl_state_epoch() {
     return quiet.epoch();
+}
+
+void brix_tcl_command_started() {
+    quiet.command_started();
 }
 
 bool brix_placed_like_declaration(std::string_view name) {

@@ -139,6 +139,9 @@ void brix_forget_bodies();
 // change neither Tcl's commands, nor their traces, nor its channels: what was found out
 // about those in one epoch stands through it.
 unsigned brix_tcl_state_epoch();
+// For a command of this stage's own other than the description commands that asks about
+// Tcl's state (`proc`): whatever ran since the last description command moves the epoch.
+void brix_tcl_command_started();
 // True for the name of a description command or `proc`, whose lines the line tracking
 // adds up.
 bool brix_placed_like_declaration(std::string_view name);

@@ -319,9 +319,11 @@ class bytecode_places {
         if (bodies_.size() >= most) {
             bodies_.clear();
         }
+        const unsigned epoch = brix_tcl_state_epoch();
         decoded& body = bodies_[code];
-        if (!body.describes(code)) {
+        if (!body.describes(code, epoch)) {
             body = decode(code);
+            body.checked = epoch;
         }
         const char* cmd = frame.cmd;
         int length = frame.len;
@@ -336,7 +338,7 @@ class bytecode_places {
         const ExtCmdLoc* ecl = nullptr;
         if (entry != nullptr) {
             ecl = static_cast<const ExtCmdLoc*>(Tcl_GetHashValue(entry));
-            loc = body.loc_at(ecl, src_offset);
+            loc = body.loc_at(ecl, src_offset, epoch);
             if (loc == nullptr) {
                 return false;
             }
@@ -367,18 +369,33 @@ class bytecode_places {
         const char* source = nullptr;
         const unsigned char* code_start = nullptr;
         const Namespace* ns = nullptr;
-        int sizes[5] = {};
+        int sizes[6] = {};
+        // A body freed and another of the same shape compiled at its address differ only
+        // here; that can only happen once Tcl has run other commands, so the encoded
+        // tables are compared again once per epoch.
+        std::vector<unsigned char> table;
+        unsigned checked = 0;
         std::vector<span> commands; // by code offset, as Tcl keeps them
         // The word locations: (source offset, entry) by offset, the first entry first.
         const ExtCmdLoc* ecl = nullptr;
         int used = -1;
+        unsigned ecl_checked = 0;
         std::vector<std::pair<int, int>> loc_of;
 
-        bool describes(const ByteCode* code) const {
-            const int now[5] = {code->numSrcBytes, code->numCodeBytes, code->numCommands,
-                                code->compileEpoch, code->nsEpoch};
-            return source == code->source && code_start == code->codeStart && ns == code->nsPtr &&
-                   std::equal(std::begin(now), std::end(now), sizes);
+        bool describes(const ByteCode* code, unsigned epoch) {
+            const int now[6] = {code->numSrcBytes,  code->numCodeBytes, code->numCommands,
+                                code->compileEpoch, code->nsEpoch,      code->numCmdLocBytes};
+            if (source != code->source || code_start != code->codeStart || ns != code->nsPtr ||
+                !std::equal(std::begin(now), std::end(now), sizes)) {
+                return false;
+            }
+            if (checked != epoch) {
+                if (!std::equal(table.begin(), table.end(), code->codeDeltaStart)) {
+                    return false;
+                }
+                checked = epoch;
+            }
+            return true;
         }
         // The innermost command whose code holds pc: of those, the one starting last.
         bool command_at(const ByteCode* code, const char* pc, const char*& cmd, int& length) const {
@@ -397,8 +414,14 @@ class bytecode_places {
             }
             return false;
         }
-        const ECL* loc_at(const ExtCmdLoc* table, int src_offset) {
-            if (table != ecl || table->nuloc != used) {
+        bool same_offsets(const ExtCmdLoc* table) const {
+            return std::all_of(loc_of.begin(), loc_of.end(), [table](const auto& entry) {
+                return table->loc[entry.second].srcOffset == entry.first;
+            });
+        }
+        const ECL* loc_at(const ExtCmdLoc* table, int src_offset, unsigned epoch) {
+            if (table != ecl || table->nuloc != used ||
+                (ecl_checked != epoch && !same_offsets(table))) {
                 ecl = table;
                 used = table->nuloc;
                 loc_of.clear();
@@ -408,6 +431,7 @@ class bytecode_places {
                 }
                 std::sort(loc_of.begin(), loc_of.end());
             }
+            ecl_checked = epoch;
             const auto found =
                 std::lower_bound(loc_of.begin(), loc_of.end(), std::pair{src_offset, 0});
             return found == loc_of.end() || found->first != src_offset ? nullptr
@@ -430,9 +454,10 @@ class bytecode_places {
         body.source = code->source;
         body.code_start = code->codeStart;
         body.ns = code->nsPtr;
-        const int sizes[5] = {code->numSrcBytes, code->numCodeBytes, code->numCommands,
-                              code->compileEpoch, code->nsEpoch};
+        const int sizes[6] = {code->numSrcBytes,  code->numCodeBytes, code->numCommands,
+                              code->compileEpoch, code->nsEpoch,      code->numCmdLocBytes};
         std::copy(std::begin(sizes), std::end(sizes), body.sizes);
+        body.table.assign(code->codeDeltaStart, code->codeDeltaStart + code->numCmdLocBytes);
         body.commands.reserve(static_cast<std::size_t>(code->numCommands));
         const unsigned char* code_delta = code->codeDeltaStart;
         const unsigned char* code_length = code->codeLengthStart;
@@ -616,6 +641,8 @@ int BRIX_proc(ClientData, Tcl_Interp* interp, int argc, const char** argv) {
     if (argc != 4) {
         brix_error("Wrong # args: should be \"proc name args body\"\n");
     }
+    // `info` may have been replaced since the last declaration.
+    brix_tcl_command_started();
     const char* file = nullptr;
     const int line = get_current_brix_file_line_num(&file);
     if (line < 1 || file == nullptr) {
