@@ -230,11 +230,6 @@ brix_text_kind brix_classify_text(std::string_view text) {
     return {(seen & 1) == 0, (seen & 2) == 0};
 }
 
-bool brix_plain_text(std::string_view text) {
-    return std::none_of(text.begin(), text.end(),
-                        [](char c) { return text_classes[static_cast<unsigned char>(c)] == 1; });
-}
-
 Tcl_Channel brix_direct_writes() {
     // The `puts` that a script would call, found from the current namespace as Tcl finds
     // it, must be Tcl's own, seen by no trace, and it must find the channel writable. A
@@ -253,7 +248,7 @@ Tcl_Channel brix_direct_writes() {
 }
 
 bool brix_write_direct(Tcl_Channel out, std::string_view text, bool ascii) {
-    const bool unconverted = brix_passes_unconverted(out, text, ascii);
+    const bool unconverted = brix_passes_unconverted(out, ascii);
     if (unconverted && brix_hold_directly(out, text)) {
         Tcl_ResetResult(brixgen_interp);
         return true;

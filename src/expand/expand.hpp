@@ -50,9 +50,8 @@ int brix_eval_checked(const std::string& script);
 // A Tcl object kept for the whole run: a fixed script, which Tcl then compiles once, or
 // a fixed word, which keeps what Tcl resolved it to.
 Tcl_Obj* brix_cached_obj(const char* script);
-// Text that a `puts -nonewline "<text>"` writes as it stands: nothing in it substitutes.
-bool brix_plain_text(std::string_view text);
-// What one pass over a text tells: whether it is plain, and whether it is ASCII only.
+// What one pass over a text tells: whether it is plain, that is a `puts -nonewline
+// "<text>"` writes it as it stands, nothing in it substituting; and whether it is ASCII only.
 struct brix_text_kind {
     bool plain = true;
     bool ascii = true;
@@ -66,11 +65,11 @@ Tcl_Channel brix_direct_writes();
 Tcl_Channel brix_stdout_channel(int* mode);
 // Writes text straight to that channel, as such a `puts` would; false, when the write
 // fails, for the caller to evaluate the `puts` and report the failure as it does.
-// `ascii` tells that the text is known to be ASCII only.
-bool brix_write_direct(Tcl_Channel out, std::string_view text, bool ascii = false);
-// True when the channel would write `text` as it stands (ASCII only, into an encoding
-// that keeps ASCII, newlines left alone), so that it may skip the conversion.
-bool brix_passes_unconverted(Tcl_Channel out, std::string_view text, bool ascii = false);
+// `ascii` tells whether the text is known to be ASCII only.
+bool brix_write_direct(Tcl_Channel out, std::string_view text, bool ascii);
+// True when the channel would write a text of ASCII only (`ascii`) as it stands: its
+// encoding keeps ASCII and its newlines are left alone, so it may skip the conversion.
+bool brix_passes_unconverted(Tcl_Channel out, bool ascii);
 // The number of commands the interpreter has run so far, counting each once as it
 // starts; false when that count is out of view, and every answer that stands "until Tcl
 // runs a script" must then be asked for again.

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -265,34 +264,17 @@ bool brix_untraced(Tcl_Command command) {
 
 // The encoding's conversion costs more per write than all the rest of the write; Tcl_Write
 // fills and flushes the channel's buffer as Tcl_WriteChars does, without it.
-bool brix_passes_unconverted(Tcl_Channel out, std::string_view text, bool ascii) {
-    if (!brix_tcl_internals) {
+bool brix_passes_unconverted(Tcl_Channel out, bool ascii) {
+    if (!ascii || !brix_tcl_internals) {
         return false;
     }
     static const Tcl_Encoding unchanged[] = {Tcl_GetEncoding(nullptr, "utf-8"),
                                              Tcl_GetEncoding(nullptr, "iso8859-1"),
                                              Tcl_GetEncoding(nullptr, "ascii")};
     const ChannelState* state = reinterpret_cast<Channel*>(out)->state;
-    if (state->outputTranslation != TCL_TRANSLATE_LF ||
-        std::find(std::begin(unchanged), std::end(unchanged), state->encoding) ==
-            std::end(unchanged)) {
-        return false;
-    }
-    if (ascii) {
-        return true;
-    }
-    // Eight bytes at a time: all the pure text passes here.
-    std::uint64_t seen = 0;
-    std::size_t i = 0;
-    for (; i + sizeof seen <= text.size(); i += sizeof seen) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, text.data() + i, sizeof eight);
-        seen |= eight;
-    }
-    for (; i < text.size(); ++i) {
-        seen |= static_cast<unsigned char>(text[i]);
-    }
-    return (seen & 0x8080808080808080) == 0;
+    return state->outputTranslation == TCL_TRANSLATE_LF &&
+           std::find(std::begin(unchanged), std::end(unchanged), state->encoding) !=
+               std::end(unchanged);
 }
 
 // Tcl_Write of unconverted text on the holding channel, when its buffers are empty and it
@@ -333,7 +315,7 @@ bool brix_untraced(Tcl_Command) {
     return false;
 }
 // Without the channel's state in view, every write converts.
-bool brix_passes_unconverted(Tcl_Channel, std::string_view, bool) {
+bool brix_passes_unconverted(Tcl_Channel, bool) {
     return false;
 }
 bool brix_commands_run(unsigned*) {
